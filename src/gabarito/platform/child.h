@@ -1,0 +1,68 @@
+// What all children of the surface have in common, and what the three that take input share.
+//
+// This header, text_box.h, label.h, combo_box.h, mask_ed_box.h, user_control.h, user32.h, kernel32.h,
+// dialogs.h and clock.h are the porting manual of a host: a host implements these interfaces, one object
+// for each child, and raises the handlers of `Gabarito` (control/gabarito.h) as told with each member.
+//
+// For all members: lengths are twips (1,440 to the inch), coordinates are relative to the surface. A
+// member that cannot do what it is asked throws an Erro and changes nothing. A member that is told to
+// raise an event runs the handler to its end before it returns, so a handler can run inside a routine of
+// the field that is still in progress.
+#ifndef GABARITO_PLATFORM_CHILD_H
+#define GABARITO_PLATFORM_CHILD_H
+
+#include <cstdint>
+#include <optional>
+#include <string_view>
+
+#include "gabarito/platform/color.h"
+#include "gabarito/platform/std_font.h"
+
+namespace gabarito {
+
+class Child {
+ public:
+  virtual ~Child() = default;
+
+  // An omitted argument keeps the present value. A negative width or height raises 380; a negative left or
+  // top is allowed.
+  virtual void Move(float left, std::optional<float> top = {}, std::optional<float> width = {},
+                    std::optional<float> height = {}) = 0;
+
+  // A hidden child takes neither focus nor keys. Hiding the child that has the focus moves the focus only
+  // when UserControl::Settle is called.
+  virtual void Visible(bool visible) = 0;
+
+  virtual void BackColor(Color color) = 0;
+
+  // The font object is shared, not copied. Raises 91 on a null reference.
+  virtual void Font(const FontRef& font) = 0;
+};
+
+class InputChild : public Child {
+ public:
+  // The content. The view is good until the next call that can change this child.
+  virtual std::u16string_view Text() const = 0;
+  // Replaces the content, puts the caret at 0 and moves no focus. Is not cut to MaxLength. Raises no event.
+  // The argument may be a view of the present content.
+  virtual void Text(std::u16string_view text) = 0;
+
+  // Caret as a 0-based offset, and length of the selection behind it. Values beyond the end of the text
+  // stop at the end, a negative one raises 380. Setting SelStart drops the selection.
+  virtual std::int32_t SelStart() const = 0;
+  virtual void SelStart(std::int32_t start) = 0;
+  virtual std::int32_t SelLength() const = 0;
+  virtual void SelLength(std::int32_t length) = 0;
+
+  // A disabled child takes neither focus nor keys and looks so.
+  virtual void Enabled(bool enabled) = 0;
+
+  // Gives the child the focus and raises its GotFocus, after the LostFocus of the child that had it, and
+  // ExitFocus of the surface that it leaves. Raises 5, with the focus where it was, when the child is
+  // hidden or disabled. Nothing happens when it has the focus already.
+  virtual void SetFocus() = 0;
+};
+
+}  // namespace gabarito
+
+#endif  // GABARITO_PLATFORM_CHILD_H

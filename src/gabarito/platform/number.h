@@ -11,29 +11,34 @@
 namespace gabarito {
 
 // The longest numeric prefix of `text`, 0 if there is none. The decimal mark is the point, whatever the
-// region. Blanks, tabs and line feeds are skipped wherever they stand. A sign, an exponent with E or D,
-// and `&H` (hexadecimal) and `&O` or `&` (octal) integers are understood; up to four hexadecimal digits
-// read as a signed 16-bit value, up to eight as a signed 32-bit one. Never fails: a value beyond the
-// range of a double is read as the largest one.
+// region. Blanks, tabs and line feeds are skipped wherever they stand. Understood are one sign, an exponent
+// with E or D, and without a sign the integers `&H` (hexadecimal) and `&O` or `&` (octal): a value up to
+// &HFFFF is a signed 16-bit one (&HFFFF is -1), a value up to &HFFFFFFFF a signed 32-bit one, and a digit
+// that would lead beyond ends the number. Never fails: a value beyond the range of a double is read as the
+// largest one, one too small as 0. No allocation; linear in the length of the text.
 double Val(std::u16string_view text);
 
-// Whether the whole of `text` is a number as the region writes it: blanks at the ends, one sign before or
-// behind, parentheses for a negative number, the currency sign before or behind, the thousands separator
-// anywhere among the digits of the integer part, the decimal mark, an exponent, or `&H`/`&O`. The empty
-// text is none.
+// Whether the whole of `text` is a number as the region writes it: digits, with the thousands separator
+// anywhere in the integer part behind its first digit, one decimal mark and an exponent (E or D). Before
+// and behind them, in any order, may stand blanks, tabs and line feeds, the currency sign once, and either
+// one sign or the parentheses of a negative number. So may `&H`, `&O` and `&` integers as Val reads them,
+// with blanks only. The empty text is none; how large the number is does not count. No allocation; linear
+// in the length of the text.
 bool IsNumeric(std::u16string_view text, const Regional& regional);
 
 // The number of a text that IsNumeric accepts. Raises 13 on any other text, 6 beyond a double's range.
 double ToDouble(std::u16string_view text, const Regional& regional);
 
-// The shortest decimal text that gives the value back with at most 15 significant digits; exponent form
-// ("1E+16", "1,5E-07") from 1E+15 upwards and below 1E-4 as soon as the plain form would need more than
-// 15 digits. `decimal` is the mark to write. No leading blank; zero is "0".
+// The value rounded to 15 significant digits, without the zeros at the end of its fraction. From 1E+15
+// upwards and below 0.0001, as rounded, in exponent form ("1E+16", "1,5E-07"), else plain ("0,0001").
+// `decimal` is the mark to write. No leading blank; zero of either sign is "0". Raises 6 on a value that is
+// not finite.
 std::u16string NumberToText(double value, std::u16string_view decimal = u".");
 
-// `value` times `factor` in 96-bit scaled decimal arithmetic: both enter with their 15 significant digits,
-// the product is exact (rounded half to even only where 96 bits or 28 decimals cannot hold it), and it
-// comes back as the nearest double. Raises 6 beyond about 7.9E+28.
+// `value` times `factor` in 96-bit scaled decimal arithmetic: both enter with their 15 significant digits
+// and at most 28 decimals, the product is exact (rounded once, half to even, only where 96 bits or 28
+// decimals cannot hold it), and it comes back as the nearest double. Raises 6 when a factor or the product
+// lies beyond 79228162514264337593543950335.
 double DecimalProduct(double value, double factor);
 
 // Rounds half to even, as conversions to an integer do. Raises 6 outside the type.

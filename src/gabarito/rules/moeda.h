@@ -1,0 +1,37 @@
+// The text form of real numbers, money and versions.
+#ifndef GABARITO_RULES_MOEDA_H
+#define GABARITO_RULES_MOEDA_H
+
+#include <string>
+#include <string_view>
+
+#include "gabarito/platform/kernel32.h"
+#include "gabarito/platform/regional.h"
+#include "gabarito/rules/arredonda.h"
+
+namespace gabarito {
+
+// The user's decimal mark and thousands separator, asked of the system on each call: at most 9 characters,
+// the empty text when the system gives none.
+std::u16string SeparadorDecimal(const Kernel32& kernel32);
+std::u16string SeparadorDeMilhar(const Kernel32& kernel32);
+
+enum class FormaDeNumero {
+  kReal,    // as many decimals as were typed
+  kMoeda,   // two decimals
+  kVersao,  // two pieces joined by the thousands separator, whatever parted them
+};
+
+// `valor` as digits and the system's separators, in the form asked for. Signs and all other characters fall
+// out, so a text without a digit gives the empty text. The integer part is grouped by thousands only when
+// `valor` groups it. Decimals beyond the second of an amount are rounded away by Arredonda; the integer
+// part never takes part in it: "12,999" becomes "12,00".
+//
+// Raises nothing: a step that fails is skipped. So a text of more than 32767 characters keeps what should
+// have fallen out, and it has no fraction if its decimal mark stands beyond that position.
+std::u16string FormataComoReal(std::u16string_view valor, FormaDeNumero forma, const Kernel32& kernel32,
+                               const Regional& regional, CacheDeArredonda& cache);
+
+}  // namespace gabarito
+
+#endif  // GABARITO_RULES_MOEDA_H

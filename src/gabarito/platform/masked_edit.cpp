@@ -1,0 +1,213 @@
+#include "gabarito/platform/masked_edit.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "gabarito/platform/erro.h"
+#include "gabarito/platform/text.h"
+
+namespace gabarito {
+namespace {
+
+constexpr std::u16string_view kPlaces = u"#9Aa?&C";
+constexpr char16_t kDelete = 127;
+
+bool IsControl(char16_t c) { return c < u' ' || c == kDelete; }
+bool IsDigit(char16_t c) { return c >= u'0' && c <= u'9'; }
+
+// ASCII, Latin-1 and Latin Extended-A, which is what UCase knows; the two signs are times and divided by.
+bool IsLetter(char16_t c) {
+  return (UCase(c) >= u'A' && UCase(c) <= u'Z') || (c >= 0xC0 && c <= 0x17F && c != 0xD7 && c != 0xF7);
+}
+
+// The inverse of UCase, which sets a small letter 32 behind its capital, or next to it beyond Latin-1.
+char16_t SmallOf(char16_t c) {
+  for (const int candidate : {c + 0x20, c + 1, 0xFF}) {
+    const auto small = static_cast<char16_t>(candidate);
+    if (small != c && IsLetter(small) && UCase(small) == c) return small;
+  }
+  return c;
+}
+
+std::size_t SizeOf(std::int32_t value) {
+  if (value < 0) throw Erro(kInvalidPropertyValue);
+  return static_cast<std::size_t>(value);
+}
+
+}  // namespace
+
+std::vector<MaskedEdit::Position> MaskedEdit::Parse(std::u16string_view pattern) {
+  std::vector<Position> positions;
+  Letters letters = Letters::kAsEntered;
+  for (std::size_t i = 0; i < pattern.size(); ++i) {
+    const char16_t c = pattern[i];
+    if (c == u'>' || c == u'<') {
+      letters = c == u'>' ? Letters::kCapital : Letters::kSmall;
+    } else if (c == u'\\') {
+      if (++i == pattern.size()) throw Erro(kInvalidPropertyValue);
+      positions.push_back({kLiteral, pattern[i], letters});
+    } else if (kPlaces.find(c) != std::u16string_view::npos) {
+      positions.push_back({c, kPrompt, letters});
+    } else {
+      positions.push_back({kLiteral, c, letters});
+    }
+  }
+  return positions;
+}
+
+bool MaskedEdit::Fits(const Position& position, char16_t character) {
+  if (character == kPrompt) return true;
+  switch (position.place) {
+    case u'#':
+      return IsDigit(character) || character == u' ';
+    case u'9':
+      return IsDigit(character);
+    case u'?':
+      return IsLetter(character);
+    case u'A':
+    case u'a':
+      return IsDigit(character) || IsLetter(character);
+    default:
+      return !IsControl(character);
+  }
+}
+
+// What a place holds once `character`, which fits, is entered.
+char16_t MaskedEdit::Entered(const Position& position, char16_t character) {
+  if (position.place == u'#' && character == u' ') return kPrompt;
+  if (position.letters == Letters::kCapital) return UCase(character);
+  return position.letters == Letters::kSmall ? SmallOf(character) : character;
+}
+
+bool MaskedEdit::IsLiteral(std::size_t at, char16_t character) const {
+  return at < positions_.size() && !IsPlace(at) && positions_[at].literal == character;
+}
+
+std::u16string MaskedEdit::Template() const {
+  std::u16string text;
+  for (const Position& position : positions_) text += position.literal;
+  return text;
+}
+
+// The first position from `from` on that takes `character`; the size of the text when none does.
+std::size_t MaskedEdit::Find(std::size_t from, char16_t character) const {
+  const bool isSeparator = !IsDigit(character) && !IsLetter(character);
+  std::size_t at = from;
+  for (; at < positions_.size(); ++at) {
+    if (IsPlace(at) ? Fits(positions_[at], character)
+                    : (isSeparator || at == from) && IsLiteral(at, character)) {
+      break;
+    }
+  }
+  return at;
+}
+
+void MaskedEdit::Select(std::size_t start, std::size_t length) {
+  start_ = std::min(start, text_.size());
+  length_ = std::min(length, text_.size() - start_);
+}
+
+void MaskedEdit::Empty(std::u16string& text, std::size_t start, std::size_t length) const {
+  for (std::size_t i = start; i < start + length; ++i) text[i] = positions_[i].literal;
+}
+
+void MaskedEdit::Mask(std::u16string_view pattern) {
+  if (pattern.size() > kLongest) throw Erro(kInvalidPropertyValue);
+  std::vector<Position> positions = Parse(pattern);
+  std::u16string mask(pattern);
+  positions_ = std::move(positions);
+  mask_ = std::move(mask);
+  text_ = Template();
+  Select(0, 0);
+}
+
+void MaskedEdit::Text(std::u16string_view text) {
+  std::u16string entered = !IsPlain() && text.empty() ? Template() : std::u16string(text);
+  if (!IsPlain()) {
+    if (entered.size() != positions_.size()) throw Erro(kInvalidPropertyValue);
+    for (std::size_t i = 0; i < entered.size(); ++i) {
+      const bool fits = IsPlace(i) ? Fits(positions_[i], entered[i]) : IsLiteral(i, entered[i]);
+      if (!fits) throw Erro(kInvalidPropertyValue);
+      if (IsPlace(i)) entered[i] = Entered(positions_[i], entered[i]);
+    }
+  }
+  text_ = std::move(entered);
+  Select(0, 0);
+}
+
+void MaskedEdit::MaxLength(std::int32_t length) {
+  if (length < 0 || length > kLongest) throw Erro(kInvalidPropertyValue);
+  max_length_ = length;
+}
+
+void MaskedEdit::SelStart(std::int32_t start) { Select(SizeOf(start), 0); }
+void MaskedEdit::SelLength(std::int32_t length) { Select(start_, SizeOf(length)); }
+
+void MaskedEdit::SelText(std::u16string_view text) {
+  if (IsPlain()) {
+    const std::size_t end = start_ + text.size();  // `text` may be a piece of text_, gone after the next line
+    text_.replace(start_, length_, text);
+    Select(end, 0);
+    return;
+  }
+  std::u16string entered = text_;
+  Empty(entered, start_, length_);
+  std::size_t caret = start_;
+  for (const char16_t c : text) {
+    const std::size_t at = Find(caret, c);
+    if (at == positions_.size()) continue;
+    if (IsPlace(at)) entered[at] = Entered(positions_[at], c);
+    caret = at + 1;
+  }
+  text_ = std::move(entered);
+  Select(caret, 0);
+}
+
+bool MaskedEdit::TypePlain(char16_t character) {
+  const auto limit = static_cast<std::size_t>(max_length_);
+  if (limit != 0 && text_.size() - length_ >= limit) return false;
+  text_.replace(start_, length_, 1, character);
+  Select(start_ + 1, 0);
+  return true;
+}
+
+bool MaskedEdit::Type(char16_t character) {
+  if (IsControl(character)) return false;
+  if (IsPlain()) return TypePlain(character);
+  const bool isTypedOnceMore = length_ == 0 && start_ > 0 && IsLiteral(start_ - 1, character) &&
+                               !IsLiteral(start_, character) && !IsDigit(character) && !IsLetter(character);
+  if (isTypedOnceMore) return true;
+  const std::size_t at = Find(start_, character);
+  if (at == positions_.size()) return false;
+  Empty(text_, start_, length_);
+  std::size_t caret = at + 1;
+  if (IsPlace(at)) {
+    text_[at] = Entered(positions_[at], character);
+    while (caret < positions_.size() && !IsPlace(caret)) ++caret;
+  }
+  Select(caret, 0);
+  return true;
+}
+
+void MaskedEdit::Backspace() {
+  if (length_ > 0) return Delete();
+  std::size_t at = start_;
+  do {
+    if (at == 0) return;
+    --at;
+  } while (!IsPlain() && !IsPlace(at));
+  Select(at, 1);
+  Delete();
+}
+
+void MaskedEdit::Delete() {
+  const std::size_t length = std::min(std::max<std::size_t>(length_, 1), text_.size() - start_);
+  if (IsPlain()) {
+    text_.erase(start_, length);
+  } else {
+    Empty(text_, start_, length);
+  }
+  Select(start_, 0);
+}
+
+}  // namespace gabarito

@@ -196,6 +196,7 @@ bool RecognizePrefixed(std::u16string_view text, double& value) {
   return reader.IsAtEnd();
 }
 
+// Infinity beyond the range of a double.
 double ValueOf(const Shape& shape, const Regional& regional) {
   DecimalReader digits;
   Reader reader(shape.digits, Blanks::kKept);
@@ -214,8 +215,15 @@ double ValueOf(const Shape& shape, const Regional& regional) {
     reader.Advance();
   }
   const double value = digits.Value(shape.exponent);
-  if (std::isinf(value)) throw Erro(kOverflow);
   return shape.negative && value != 0 ? -value : value;
+}
+
+// Whether the whole of `text` is a number, and its value, as ValueOf gives it.
+bool ReadNumber(std::u16string_view text, const Regional& regional, double& value) {
+  Shape shape;
+  if (!Recognize(text, regional, shape)) return RecognizePrefixed(text, value);
+  value = ValueOf(shape, regional);
+  return true;
 }
 
 template <class Integer>
@@ -259,12 +267,18 @@ bool IsNumeric(std::u16string_view text, const Regional& regional) {
   return Recognize(text, regional, shape) || RecognizePrefixed(text, value);
 }
 
+bool ReadDouble(std::u16string_view text, const Regional& regional, double& value) {
+  double number = 0;
+  if (!ReadNumber(text, regional, number) || std::isinf(number)) return false;
+  value = number;
+  return true;
+}
+
 double ToDouble(std::u16string_view text, const Regional& regional) {
-  Shape shape;
-  if (Recognize(text, regional, shape)) return ValueOf(shape, regional);
-  double value = 0;
-  if (RecognizePrefixed(text, value)) return value;
-  throw Erro(kTypeMismatch);
+  double number = 0;
+  if (!ReadNumber(text, regional, number)) throw Erro(kTypeMismatch);
+  if (std::isinf(number)) throw Erro(kOverflow);
+  return number;
 }
 
 std::int16_t ToInt16(double value) { return ToInteger<std::int16_t>(value); }

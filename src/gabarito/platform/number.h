@@ -26,7 +26,11 @@ double Val(std::u16string_view text);
 // in the length of the text.
 bool IsNumeric(std::u16string_view text, const Regional& regional);
 
-// The number of a text that IsNumeric accepts. Raises 13 on any other text, 6 beyond a double's range.
+// Reads a text that IsNumeric accepts; false, with `value` untouched, on any other text and on a number
+// beyond the range of a double. Never raises.
+bool ReadDouble(std::u16string_view text, const Regional& regional, double& value);
+
+// What ReadDouble reads. Raises 13 on a text that IsNumeric refuses, 6 beyond the range of a double.
 double ToDouble(std::u16string_view text, const Regional& regional);
 
 // The value rounded to 15 significant digits, without the zeros at the end of its fraction. From 1E+15

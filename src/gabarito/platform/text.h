@@ -55,10 +55,10 @@ std::u16string String(std::int32_t count, char16_t character);
 
 // Whether the whole of `text` matches `pattern`: `?` any one character, `*` any run of characters, `#` one
 // digit 0 to 9, `[abc]` one of a set, `[a-z]` a range of it, `[!...]` none of it; every other character is
-// itself. Ordinal: case counts. A "]" outside a set is itself, a "-" first or last in a set is itself, "[]"
-// matches the empty text, "[!]" the "!". Raises 93 when a `[` is not closed or a range runs backwards,
-// whenever the pattern holds one, wherever the text would stop matching. Time at most proportional to the
-// product of both lengths.
+// itself. Ordinal: case counts. A "]" outside a set is itself, a "-" first or last in a set or right behind
+// a range is itself, "[]" matches the empty text, "[!]" the "!". Raises 93 when a `[` is not closed or a
+// range runs backwards, whenever the pattern holds one, wherever the text would stop matching. Time at most
+// proportional to the product of both lengths.
 bool Like(std::u16string_view text, std::u16string_view pattern);
 
 }  // namespace gabarito

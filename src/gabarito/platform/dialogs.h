@@ -1,4 +1,4 @@
-// Message boxes, sound and the stock key sending of the host.
+// Message boxes, sound, the stock key sending and the trace of the host.
 #ifndef GABARITO_PLATFORM_DIALOGS_H
 #define GABARITO_PLATFORM_DIALOGS_H
 
@@ -32,6 +32,9 @@ class Dialogs {
 
   // The platform's own key sending with the same key-string language; used where SendInput is missing.
   virtual void SendKeys(std::u16string_view text, bool wait) = 0;
+
+  // One line for the developer's trace; the user never sees it.
+  virtual void Trace(std::u16string_view text) = 0;
 };
 
 }  // namespace gabarito

@@ -52,8 +52,14 @@ struct RECT {
   friend bool operator==(const RECT&, const RECT&) = default;
 };
 
-using WindowProc = std::intptr_t;
 using DeviceContext = std::intptr_t;
+
+class User32;
+
+// A window procedure, and its address as window calls and window properties carry it.
+using WindowProcedure = std::int32_t (*)(User32& user32, WindowHandle window, std::int32_t message,
+                                         std::int32_t wParam, std::int32_t lParam);
+using WindowProc = std::intptr_t;
 
 class User32 {
  public:

@@ -1,0 +1,51 @@
+#include "gabarito/keyboard/regra_de_tecla.h"
+
+#include <string>
+
+#include "gabarito/platform/number.h"
+#include "gabarito/rules/texto.h"
+
+namespace gabarito {
+namespace {
+
+bool EhDigito(char16_t c) { return c >= u'0' && c <= u'9'; }
+
+double ValorDoCandidato(std::u16string_view texto, char16_t caractere) {
+  char16_t curto[65];
+  if (texto.size() < sizeof(curto) / sizeof(curto[0])) {
+    texto.copy(curto, texto.size());
+    curto[texto.size()] = caractere;
+    return Val({curto, texto.size() + 1});
+  }
+  return Val(std::u16string(texto) + caractere);
+}
+
+bool PassaNaClasse(const RegraDeTecla& regra, char16_t c) {
+  switch (regra.teclas) {
+    case Teclas::kTodas:
+      return true;
+    case Teclas::kNenhuma:
+      return false;
+    case Teclas::kLetras:
+      return EhLetra({&c, 1});
+    case Teclas::kTelefone:
+      if (c >= u'A' && c <= u'Z') return true;
+      [[fallthrough]];
+    case Teclas::kDigitos:
+      return EhDigito(c) || regra.tambem.find(c) != std::u16string_view::npos;
+  }
+  return true;
+}
+
+}  // namespace
+
+Desfecho Julga(const RegraDeTecla& regra, std::int16_t indice, std::u16string_view texto,
+               char16_t caractere) {
+  if (!PassaNaClasse(regra, caractere)) {
+    return regra.saltos.find(caractere) != std::u16string_view::npos ? Desfecho::kSalta : Desfecho::kRejeita;
+  }
+  if (indice < 0 || indice > 1 || regra.limites[indice] < 0) return Desfecho::kPassa;
+  return ValorDoCandidato(texto, caractere) > regra.limites[indice] ? Desfecho::kRejeita : Desfecho::kPassa;
+}
+
+}  // namespace gabarito

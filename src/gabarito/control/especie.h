@@ -1,0 +1,36 @@
+// One kind of field: everything in which it differs from the others, as a row of data.
+#ifndef GABARITO_CONTROL_ESPECIE_H
+#define GABARITO_CONTROL_ESPECIE_H
+
+#include <cstdint>
+#include <span>
+#include <string_view>
+
+#include "gabarito/keyboard/regra_de_tecla.h"
+#include "gabarito/state/campo.h"
+
+namespace gabarito {
+
+struct Especie {
+  std::int32_t valor;  // an EMascaras; 0 in the default row
+  std::string_view nome;
+  std::string_view toma;  // what the field takes, in a few English words, for lists of kinds
+  void (*layout)(Campo&);
+  void (*carrega)(Campo&, std::u16string_view dado);
+  void (*sai)(Campo&);
+  RegraDeTecla regra;
+};
+
+// The 23 kinds in the order of their values.
+std::span<const Especie> Especies();
+
+// The row of a value of Mask; the default row for any number outside EMascaras: the single box, the exit
+// and the keys of gbNenhuma, and a load that tells of the unknown mask.
+const Especie& EspecieDe(std::int32_t mascara);
+
+// The row with this name, or null.
+const Especie* EspecieDeNome(std::string_view nome);
+
+}  // namespace gabarito
+
+#endif  // GABARITO_CONTROL_ESPECIE_H

@@ -1,0 +1,56 @@
+#include "gabarito/control/foco.h"
+
+#include "gabarito/platform/pula_erros.h"
+#include "gabarito/platform/text.h"
+
+namespace gabarito {
+namespace {
+
+// The box of an array; raises 9 on an index that the host made up.
+TextBox& Caixa(const std::array<TextBox*, 3>& caixas, std::int16_t indice) {
+  if (indice < 0 || indice > 2) throw Erro(kSubscriptOutOfRange);
+  return *caixas[static_cast<std::size_t>(indice)];
+}
+
+void SelecionaTudo(PulaErros& pula, const std::array<TextBox*, 3>& caixas, std::int16_t indice) {
+  pula([&] { Caixa(caixas, indice).SelStart(0); });
+  pula([&] { Caixa(caixas, indice).SelLength(Len(Caixa(caixas, indice).Text())); });
+}
+
+}  // namespace
+
+void UserControl_GotFocus(Campo& c) {
+  PulaErros pula;
+  if (pula.Se([&] { return c.Combo1->Visible(); })) {
+    pula([&] { c.Combo1->SetFocus(); });
+    return;
+  }
+  pula([&] { c.mEntrada1->SetFocus(); });
+  // A hidden first box refuses the focus: this is how the masked box is found.
+  if (pula.Number() != 0) pula([&] { c.MaskEdBox1->SetFocus(); });
+}
+
+void EntradaGotFocus(Campo& c, std::int16_t Index) {
+  PulaErros pula;
+  SelecionaTudo(pula, c.txt_entrada, Index);
+  SelecionaTudo(pula, c.txt_entrada3D, Index);
+  pula([&] { c.MaskEdBox1->BackColor(kWindowBackground); });
+  for (std::size_t i = 0; i < 3; ++i) {
+    pula([&] { c.txt_entrada[i]->BackColor(kWindowBackground); });
+    pula([&] { c.txt_entrada3D[i]->BackColor(kWindowBackground); });
+  }
+  if (c.mUsarFundoPastel) {
+    pula([&] { Caixa(c.txt_entrada, Index).BackColor(kPastel); });
+    pula([&] { Caixa(c.txt_entrada3D, Index).BackColor(kPastel); });
+  }
+  pula([&] { c.UserControl->Refresh(); });
+}
+
+void MaskEdBox1_GotFocus(Campo& c) {
+  PulaErros pula;
+  pula([&] { c.MaskEdBox1->SelStart(0); });
+  pula([&] { c.MaskEdBox1->SelLength(Len(c.MaskEdBox1->Text())); });
+  pula([&] { c.MaskEdBox1->BackColor(kPastel); });
+}
+
+}  // namespace gabarito

@@ -1,0 +1,167 @@
+// Gabarito: one input field that becomes 23 by one value, Mask.
+//
+//   gabarito::Gabarito campo(host);        // a host, such as the one in hosts/memory
+//   campo.UserControl_Initialize();
+//   campo.UserControl_Show();
+//   campo.Mask(gabarito::gbCPF);
+//   campo.Text(u"11144477735");
+//   campo.Text();                          // u"111.444.777-35"
+//
+// A program uses the properties, methods and the event; a host raises the handlers at the end. One thread.
+// What fails reaches the caller as an Erro where a member says so; nothing else is thrown but faults of the
+// program itself (out of memory).
+#ifndef GABARITO_CONTROL_GABARITO_H
+#define GABARITO_CONTROL_GABARITO_H
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "gabarito/platform/host.h"
+#include "gabarito/state/campo.h"
+#include "gabarito/state/mascaras.h"
+
+namespace gabarito {
+
+class Gabarito {
+ public:
+  // Everything named in `host` outlives the field.
+  explicit Gabarito(const Host& host);
+  ~Gabarito();
+  Gabarito(const Gabarito&) = delete;
+  Gabarito& operator=(const Gabarito&) = delete;
+
+  // --- Methods -------------------------------------------------------------------------------------------
+
+  // Empties all boxes, separators and the list, and releases the words of ComboItens. The value that Text
+  // gives follows at its next read; the separators at the next layout.
+  void ApagaCampos();
+
+  // Shows the about box.
+  void Sobre();
+
+  // `s` in capitals and without accents. Raises 6 on more than 32,767 characters.
+  std::u16string pfTiraAcentoDeFrase(std::u16string_view s) const;
+
+  // --- Properties ----------------------------------------------------------------------------------------
+  // Setters report PropertyChanged to the host. Those of Appearance, Mask, MaskText, MaxLength and
+  // UsarFundoPastel work the layout out again, which empties the boxes of a date and of month and year and
+  // fills the lists anew.
+
+  // Longest text, in characters, of the kinds with one box, 0 to 32,767; 0 is no limit. A negative value
+  // counts as its absolute value; -32768 raises 6. Reads 64 under gbDefUsr.
+  std::int16_t MaxLength() const;
+  void MaxLength(std::int16_t t);
+
+  // The words of gbListaNoCombo: an array of any lower bound in, an array of texts with lower bound 0, or
+  // Empty, out. They show at the next layout: set them before Mask.
+  Variant ComboItens() const;
+  void ComboItens(const Variant& itens);
+
+  // Entries of the list, whatever the kind.
+  std::int16_t ComboListCount() const;
+
+  // Selected entry, 0-based, -1 for none. A value outside the list changes nothing.
+  std::int16_t ComboListIndex() const;
+  void ComboListIndex(std::int16_t valor);
+
+  // Whether the children take focus and keys. Reading raises 91 before the first layout.
+  bool Enabled() const;
+  void Enabled(bool valor);
+
+  // Reads the colour of Combo1. The text boxes show it until their next focus event.
+  Color BackColor() const;
+  void BackColor(Color lCor);
+
+  // Reading runs the whole exit check first: it can show message boxes, move the focus and rewrite the
+  // boxes. Writing distributes `dado` over the children by Mask without judging it; what fails on the way is
+  // told in a message box. The form of the value under each kind: docs/masks.md.
+  std::u16string Text();
+  void Text(std::u16string_view dado);
+
+  // An EMascaras; any other number is kept and shows a plain box.
+  std::int32_t Mask() const;
+  void Mask(std::int32_t M);
+
+  // The pattern of gbDefUsr. Setting it sets Mask to gbDefUsr first; a pattern that is refused leaves the old
+  // one in place.
+  std::u16string MaskText() const;
+  void MaskText(std::u16string_view mascara);
+
+  // Colour the box with the focus pastel.
+  bool UsarFundoPastel() const;
+  void UsarFundoPastel(bool valor);
+
+  // After the message on a bad date under gbData: fill in today, instead of emptying the boxes and taking the
+  // focus back.
+  bool PreencherDatasInvalidasComDataDeHoje() const;
+  void PreencherDatasInvalidasComDataDeHoje(bool valor);
+
+  // 1 is the 3D look, every other value the flat one.
+  std::int32_t Appearance() const;
+  void Appearance(std::int32_t valor);
+
+  // The font object that surface and children share. A null one raises 91. The new height reaches the boxes
+  // at the next layout.
+  FontRef Font() const;
+  void Font(const FontRef& sFnt);
+
+  // Enter moves on as Tab does.
+  bool TrataEnterComoTab() const;
+  void TrataEnterComoTab(bool valor);
+
+  // --- Event ---------------------------------------------------------------------------------------------
+
+  // Called for each key that goes down in a text box or comes up in Combo1, and with 13 and 0 after an Enter
+  // that moved on and after a jump. Both arguments may be changed. One handler; an empty one takes it away.
+  void KeyUp(KeyUpHandler handler);
+
+  // --- Handlers that the host raises ---------------------------------------------------------------------
+
+  void UserControl_Initialize();
+  void UserControl_ReadProperties(const PropertyBag& PropBag);
+  void UserControl_Show();
+  void UserControl_Resize();
+  void UserControl_WriteProperties(PropertyBag& PropBag) const;
+  void UserControl_Terminate();
+  void UserControl_AmbientChanged(std::u16string_view PropertyName);
+  void UserControl_GotFocus();
+  void UserControl_ExitFocus();
+
+  // `Index` is the position of the box in its array, 0 to 2. KeyAscii, KeyCode and Shift hold afterwards what
+  // the host goes on with.
+  void txt_entrada_GotFocus(std::int16_t Index);
+  void txt_entrada_KeyDown(std::int16_t Index, std::int16_t& KeyCode, std::int16_t& Shift);
+  void txt_entrada_KeyPress(std::int16_t Index, std::int16_t& KeyAscii);
+  void txt_entrada3D_GotFocus(std::int16_t Index);
+  void txt_entrada3D_KeyDown(std::int16_t Index, std::int16_t& KeyCode, std::int16_t& Shift);
+  void txt_entrada3D_KeyPress(std::int16_t Index, std::int16_t& KeyAscii);
+  void MaskEdBox1_GotFocus();
+  void MaskEdBox1_KeyPress(std::int16_t& KeyAscii);
+  void Combo1_Click();
+  void Combo1_KeyPress(std::int16_t& KeyAscii);
+  void Combo1_KeyUp(std::int16_t& KeyCode, std::int16_t& Shift);
+  void Combo1_LostFocus();
+
+  // --- The flat edge of Combo1, for hosts that want it -----------------------------------------------------
+
+  // See subclass/combo_subclass.h. Nothing in the field calls them.
+  void HookCombo();
+  void UnhookCombo();
+  std::int32_t ComboWindowProc(WindowHandle hWnd, std::int32_t uMsg, std::int32_t wParam,
+                               std::int32_t lParam);
+
+  // What the field remembers, for hosts and tests that show it.
+  const Campo& Estado() const { return c; }
+
+ private:
+  // Runs a public operation that can hide or disable children and lets the host settle the focus after it.
+  template <class Operacao>
+  void Publica(Operacao operacao);
+
+  Campo c;
+};
+
+}  // namespace gabarito
+
+#endif  // GABARITO_CONTROL_GABARITO_H

@@ -1,0 +1,147 @@
+#include "hosts/memory/form.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "gabarito/platform/erro.h"
+#include "hosts/memory/button.h"
+#include "hosts/memory/field.h"
+#include "hosts/memory/plain_box.h"
+
+namespace gabarito::memory {
+
+Form::Form() : windows_(environment_) {}
+Form::~Form() = default;
+
+Field& Form::AddField(std::string name) {
+  auto field = std::make_unique<Field>(*this, std::move(name));
+  Field& added = *field;
+  controls_.push_back(std::move(field));
+  return added;
+}
+
+PlainBox& Form::AddBox(std::string name) {
+  auto box = std::make_unique<PlainBox>(environment_, std::move(name));
+  PlainBox& added = *box;
+  controls_.push_back(std::move(box));
+  return added;
+}
+
+Button& Form::AddButton(std::string name) {
+  auto button = std::make_unique<Button>(std::move(name));
+  Button& added = *button;
+  controls_.push_back(std::move(button));
+  return added;
+}
+
+void Form::SetFocus(Focusable& receiver) {
+  if (focused_ == &receiver && receiver.CanTakeFocus()) return;
+  if (!receiver.CanTakeFocus()) throw Erro(kInvalidProcedureCall);
+  const std::uint64_t move = ++moves_;
+  Focusable* const former = focused_;
+  if (former != nullptr) former->LostFocus();
+  if (move != moves_ || !receiver.CanTakeFocus()) return;
+  focused_ = &receiver;
+  if (environment_.recorder != nullptr) environment_.recorder->Focus(receiver);
+  if (former != nullptr && &former->Owner() != &receiver.Owner()) former->Owner().ExitFocus();
+  if (move == moves_) receiver.GotFocus();
+}
+
+void Form::Tab(bool backwards) {
+  std::vector<Focusable*> stops;
+  for (const auto& control : controls_) control->TabStops(stops);
+  if (backwards) std::reverse(stops.begin(), stops.end());
+  auto here = std::find(stops.begin(), stops.end(), focused_);
+  if (here == stops.end() && focused_ != nullptr) {
+    // The surface of a field stands in front of its own children.
+    here = std::find_if(stops.begin(), stops.end(),
+                        [&](Focusable* stop) { return &stop->Owner() == &focused_->Owner(); });
+    if (here != stops.end() && !backwards) std::rotate(stops.begin(), here, stops.end()), here = stops.end();
+  }
+  if (here != stops.end()) std::rotate(stops.begin(), here + 1, stops.end());
+  for (Focusable* stop : stops) {
+    if (stop == focused_ || !stop->CanTakeFocus()) continue;
+    SetFocus(*stop);
+    return;
+  }
+}
+
+void Form::Settle() {
+  if (focused_ == nullptr || focused_->CanTakeFocus()) return;
+  Focusable* const surface = focused_->Owner().Surface();
+  if (surface != nullptr && surface->CanTakeFocus()) SetFocus(*surface);
+}
+
+void Form::Forget(Control& control) {
+  if (focused_ == nullptr || &focused_->Owner() != &control) return;
+  ++moves_;
+  focused_ = nullptr;
+}
+
+void Form::Run() {
+  if (running_) return;
+  running_ = true;
+  try {
+    while (environment_.keyboard.Pending()) {
+      Deliver(environment_.keyboard.Next());
+      Settle();
+    }
+  } catch (...) {
+    running_ = false;
+    throw;
+  }
+  running_ = false;
+}
+
+void Form::Deliver(const KeyEvent& event) {
+  if (event.vk == kVkTab && (event.shift & (kCtrlMask | kAltMask)) == 0) {
+    if (!event.up) Tab((event.shift & kShiftMask) != 0);
+    return;
+  }
+  Focusable* const receiver = focused_;
+  if (receiver == nullptr || !receiver->CanTakeFocus()) return;
+  if (event.up) {
+    receiver->KeyUp(event.vk, event.shift);
+    return;
+  }
+  char16_t character = event.unicode;
+  if (event.vk != 0) {
+    if (!receiver->KeyDown(event.vk, event.shift)) return;
+    character =
+        environment_.keyboard.Layout().CharacterOf(event.vk, event.shift, environment_.keyboard.CapsLock());
+  }
+  // The character goes to the entry that saw the key go down, if that is still on show.
+  if (character != 0 && receiver->CanTakeFocus()) receiver->Character(character);
+}
+
+void Form::Press(std::int16_t vk, std::int16_t shift) {
+  environment_.keyboard.Press(vk, shift);
+  Run();
+}
+
+void Form::Type(std::u16string_view text) {
+  Keyboard& keyboard = environment_.keyboard;
+  for (char16_t character : text) {
+    if (character == u'\n') character = u'\r';
+    auto stroke = keyboard.Layout().StrokeFor(character);
+    if (!stroke) {
+      const INPUT events[] = {{.type = kInputKeyboard, .wScan = character, .dwFlags = kKeyUnicode},
+                              {.type = kInputKeyboard, .wScan = character, .dwFlags = kKeyUnicode | kKeyUp}};
+      keyboard.Send(events);
+      Run();
+      continue;
+    }
+    // A person who sees the wrong case come up holds Shift the other way round.
+    if (keyboard.Layout().CharacterOf(stroke->vk, stroke->shift, keyboard.CapsLock()) != character) {
+      stroke->shift ^= kShiftMask;
+    }
+    Press(stroke->vk, stroke->shift);
+  }
+}
+
+void Form::Paste(std::u16string_view text) {
+  environment_.clipboard = text;
+  Press('V', kCtrlMask);
+}
+
+}  // namespace gabarito::memory

@@ -1,11 +1,9 @@
 // User32 and its neighbours as far as typing needs them: a keyboard of a given layout, and a record of all
-// that was sent. Records are written "+9" for a press, "-9:F" for a release with its scan code, with an "x"
-// for the extended flag and U20AC in place of the key for a Unicode character.
+// that was sent.
 #ifndef TESTS_KEYINJECT_RECORDING_USER32_H
 #define TESTS_KEYINJECT_RECORDING_USER32_H
 
-#include <charconv>
-#include <span>
+#include <cstdio>
 #include <string>
 #include <vector>
 
@@ -16,68 +14,59 @@
 
 namespace gabarito {
 
-class RecordingUser32 : public User32 {
- public:
-  explicit RecordingUser32(const memory::KeyboardLayout& layout = memory::Abnt2(), bool capsLock = false)
-      : layout_(&layout), capsLock_(capsLock) {}
-
+struct RecordingUser32 : User32 {
   std::vector<INPUT> records;  // of the last call
   int calls = 0;
+  const memory::KeyboardLayout* layout = &memory::Abnt2();
+  bool capsLock = false;
 
+  // "+16" is a press and "-16" a release without a scan code; "9" is the press of a key and its release with
+  // the key's scan code, "37x" the same with the extended flag, "u20AC" both halves of a Unicode character.
+  // Anything else is "?".
   std::string Sent() const {
     std::string text;
-    for (const INPUT& record : records) {
-      const bool unicode = (record.dwFlags & kKeyUnicode) != 0;
-      if (!text.empty()) text += ' ';
-      text += record.dwFlags & kKeyUp ? '-' : '+';
-      text += unicode ? "U" + Number(record.wScan, 16) : Number(record.wVk, 10);
-      if (record.dwFlags & kKeyExtended) text += 'x';
-      if (!unicode && record.wScan) text += ":" + Number(record.wScan, 16);
-      if (record.type != kInputKeyboard || record.time || record.dwExtraInfo) text += "?";
+    for (std::size_t i = 0; i < records.size(); ++i) {
+      const INPUT& a = records[i];
+      const INPUT b = i + 1 < records.size() ? records[i + 1] : INPUT{};
+      const bool pair = a.wVk == b.wVk && b.dwFlags == ((a.dwFlags & kKeyUnicode) | kKeyUp);
+      const bool unicode = pair && a.dwFlags == kKeyUnicode && a.wVk == 0 && a.wScan == b.wScan;
+      const bool stroke = pair && a.dwFlags < 2 && a.wScan == 0 && b.wScan == layout->ScanCode(b.wVk);
+      const bool single = a.wScan == 0 && (a.dwFlags & ~kKeyUp) == 0 && a.type == kInputKeyboard;
+      const char* const format = unicode  ? "u%X "
+                                 : stroke ? (a.dwFlags ? "%dx " : "%d ")
+                                 : single ? (a.dwFlags ? "-%d " : "+%d ")
+                                          : "? ";
+      char word[16];
+      text.append(word, std::snprintf(word, sizeof word, format, unicode ? a.wScan : a.wVk));
+      i += unicode || stroke;
     }
     return text;
   }
 
   std::int32_t SendInput(std::span<const INPUT> events, std::int32_t size) override {
-    records.assign(events.begin(), events.end());
-    ++calls;
-    return size == 28 ? static_cast<std::int32_t>(events.size()) : 0;
+    if (size == 28) records.assign(events.begin(), events.end());
+    return ++calls;
   }
-  std::int16_t VkKeyScanA(std::uint8_t character) const override { return layout_->VkKeyScan(character); }
-  std::int32_t GetKeyboardLayout(std::int32_t) const override { return layout_->handle; }
-  std::int32_t MapVirtualKeyExA(std::int32_t key, std::int32_t type, std::int32_t layout) const override {
-    return type == 0 && layout == layout_->handle ? layout_->ScanCode(key) : 0;
+  std::int16_t VkKeyScanA(std::uint8_t character) const override { return layout->VkKeyScan(character); }
+  std::int32_t GetKeyboardLayout(std::int32_t) const override { return layout->handle; }
+  std::int32_t MapVirtualKeyExA(std::int32_t key, std::int32_t type, std::int32_t handle) const override {
+    return type == 0 && handle == layout->handle ? layout->ScanCode(key) : 0;
   }
-  std::int16_t GetKeyState(std::int32_t key) const override { return key == kVkCapital && capsLock_; }
+  std::int16_t GetKeyState(std::int32_t key) const override { return key == kVkCapital && capsLock; }
 
   // Nothing of the following is asked for by typing.
-  std::int32_t SendMessageA(WindowHandle, std::int32_t, std::int32_t, std::u16string_view) override {
-    return 0;
-  }
+  std::int32_t SendMessageA(WindowHandle, int, int, std::u16string_view) override { return 0; }
   void LockWindowUpdate(WindowHandle) override {}
   std::intptr_t GetPropA(WindowHandle, std::string_view) const override { return 0; }
   void SetPropA(WindowHandle, std::string_view, std::intptr_t) override {}
   std::intptr_t GetWindowLongA(WindowHandle, std::int32_t) const override { return 0; }
   std::intptr_t SetWindowLongA(WindowHandle, std::int32_t, std::intptr_t) override { return 0; }
-  std::int32_t CallWindowProcA(WindowProc, WindowHandle, std::int32_t, std::int32_t, std::int32_t) override {
-    return 0;
-  }
+  std::int32_t CallWindowProcA(WindowProc, WindowHandle, int, int, int) override { return 0; }
   DeviceContext GetWindowDC(WindowHandle) override { return 0; }
   void ReleaseDC(WindowHandle, DeviceContext) override {}
   void GetClientRect(WindowHandle, RECT&) const override {}
   void DrawEdge(DeviceContext, const RECT&, std::int32_t, std::int32_t) override {}
   void InflateRect(RECT&, std::int32_t, std::int32_t) const override {}
-
- private:
-  static std::string Number(int value, int base) {
-    char digits[8];
-    std::string text(digits, std::to_chars(digits, digits + sizeof digits, value, base).ptr);
-    for (char& digit : text) digit = static_cast<char>(digit >= 'a' ? digit - 'a' + 'A' : digit);
-    return text;
-  }
-
-  const memory::KeyboardLayout* layout_;
-  bool capsLock_;
 };
 
 struct SystemVersion : Kernel32 {
@@ -87,14 +76,11 @@ struct SystemVersion : Kernel32 {
 };
 
 struct RecordingDialogs : Dialogs {
-  std::u16string keys;  // "wait" or "go" and the text, of the last SendKeys
-  std::int32_t MsgBox(std::u16string_view, std::int32_t, std::optional<std::u16string_view>) override {
-    return kAnswerOk;
-  }
+  std::u16string keys;  // of all SendKeys: the text, and "!" for one to wait for
+  std::int32_t MsgBox(std::u16string_view, int, std::optional<std::u16string_view>) override { return 1; }
   void Beep() override {}
-  void SendKeys(std::u16string_view text, bool wait) override {
-    keys.assign(wait ? u"wait " : u"go ").append(text);
-  }
+  void SendKeys(std::u16string_view text, bool wait) override { keys.append(text).append(wait, u'!'); }
+  void Trace(std::u16string_view) override {}
 };
 
 }  // namespace gabarito

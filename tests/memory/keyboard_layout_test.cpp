@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <string>
-
 #include "gabarito/platform/text.h"
 
 namespace gabarito::memory {
@@ -26,46 +24,39 @@ TEST(KeyboardLayout, TheStrokeOfACharacterTypesThatCharacter) {
 }
 
 TEST(KeyboardLayout, CharactersAreFoundOnTheirKeys) {
-  const struct {
-    const KeyboardLayout& layout;
-    int code, key;
-  } rows[] = {
-      {Abnt2(), '/', 0x0C1},  {Abnt2(), '?', 0x1C1},  {Abnt2(), '[', 0x0DD},  {Abnt2(), ']', 0x0DC},
-      {Abnt2(), ';', 0x0BF},  {Abnt2(), '\'', 0x0C0}, {Abnt2(), '"', 0x1C0},  {Abnt2(), 0xE7, 0x0BA},
-      {Abnt2(), 0xC7, 0x1BA}, {Abnt2(), 0xA7, 0x6BB}, {Abnt2(), 0xBA, 0x6DC}, {Abnt2(), ',', 0x0BC},
-      {Abnt2(), '^', -1},     {Abnt2(), '~', -1},     {Abnt2(), '`', -1},     {Abnt2(), 0xB4, -1},
-      {Abnt2(), 0xA8, -1},    {Abnt2(), 0xE3, -1},    {Abnt2(), 0x80, -1},    {Us(), '/', 0x0BF},
-      {Us(), '^', 0x136},     {Us(), '~', 0x1C0},     {Us(), '*', 0x138},     {Us(), '+', 0x1BB},
-      {Us(), 0xE7, -1},       {Us(), 'Z', 0x15A},     {Us(), 1, 0x241},       {Us(), 8, 0x008},
-      {Us(), 9, 0x009},       {Us(), 10, 0x20D},      {Us(), 13, 0x00D},      {Us(), 27, 0x01B},
+  const auto expectKeys = [](const KeyboardLayout& layout, std::u16string_view characters,
+                             std::initializer_list<int> keys) {
+    for (std::size_t i = 0; i < keys.size(); ++i) {
+      EXPECT_EQ(layout.VkKeyScan(Asc(characters[i])), keys.begin()[i]) << "character " << i;
+    }
   };
-  for (const auto& row : rows) {
-    EXPECT_EQ(row.layout.VkKeyScan(static_cast<std::uint8_t>(row.code)), row.key)
-        << "character " << row.code << " row " << &row - rows;
-  }
+  expectKeys(Abnt2(), u"/?[];'\",\u00E7\u00C7\u00A7\u00BA^~`\u00B4\u00A8\u00E3\u20AC",
+             {0x0C1, 0x1C1, 0x0DD, 0x0DC, 0x0BF, 0x0C0, 0x1C0, 0x0BC, 0x0BA, 0x1BA, 0x6BB, 0x6DC, -1, -1, -1,
+              -1, -1, -1, -1});
+  expectKeys(Us(), u"/^~*+\u00E7Z\x01\b\t\n\r\x1B",
+             {0x0BF, 0x136, 0x1C0, 0x138, 0x1BB, -1, 0x15A, 0x241, 0x008, 0x009, 0x20D, 0x00D, 0x01B});
   EXPECT_EQ(Abnt2().StrokeFor(u'\u20A2'), (KeyStroke{'C', 6}));
-  for (const char16_t none : u"\0\u20AC\u0100") EXPECT_EQ(Abnt2().StrokeFor(none), std::nullopt);
+  for (const char16_t none : u"\u20AC\u0100") EXPECT_EQ(Abnt2().StrokeFor(none), std::nullopt);
 }
 
 TEST(KeyboardLayout, AKeyTypesByItsShiftStateAndCapsLock) {
-  const struct {
-    std::int16_t vk, shift;
-    bool capsLock;
-    char16_t character;
-  } rows[] = {
-      {'A', 0, false, u'a'},  {'A', 1, false, u'A'},      {'A', 0, true, u'A'},
-      {'A', 1, true, u'a'},   {'A', 2, true, 1},          {'A', 3, false, 1},
-      {'A', 4, false, 0},     {'A', 6, false, 0},         {'Q', 6, true, u'/'},
-      {'Q', 7, false, 0},     {0xBA, 0, true, u'\u00C7'}, {0xBA, 1, true, u'\u00E7'},
-      {'1', 0, true, u'1'},   {'1', 6, false, u'\u00B9'}, {'6', 1, false, 0},
-      {0xDE, 0, false, 0},    {0xDD, 3, false, 0},        {13, 0, false, 13},
-      {13, 2, false, 10},     {9, 1, false, 9},           {96, 0, false, u'0'},
-      {105, 0, false, u'9'},  {106, 0, false, u'*'},      {110, 0, false, u','},
-      {0xC2, 0, false, u'.'}, {111, 0, true, u'/'},       {37, 0, false, 0},
-      {-1, 0, false, 0},      {256, 0, false, 0},
-  };
-  for (const auto& row : rows) {
-    EXPECT_EQ(Abnt2().CharacterOf(row.vk, row.shift, row.capsLock), row.character) << "row " << &row - rows;
+  // What a key types, "_" for nothing, in the shift states below and with Caps Lock plain and with Shift.
+  constexpr std::int16_t kShifts[] = {0, 1, 2, 3, 4, 6, 7, 0, 1};
+  const std::pair<std::int16_t, std::u16string_view> rows[] = {
+      {'Q', u"qQ\x11\x11_/_Qq"}, {0xBA, u"\u00E7\u00C7\x1D____\u00C7\u00E7"},
+      {'1', u"1!___\u00B9_1!"},  {'6', u"6____\u00AC_6_"},
+      {0xDE, u"_________"},      {0xDD, u"[{\x1B__\u00AA_[{"},
+      {13, u"\r\r\n____\r\r"},   {96, u"0______0_"},
+      {107, u"++_____++"},       {110, u",,_____,,"},
+      {0xC2, u".._____.."},      {37, u"_________"},
+      {-1, u"_________"},        {256, u"_________"}};
+  for (const auto& [vk, characters] : rows) {
+    std::u16string typed;
+    for (std::size_t i = 0; i < std::size(kShifts); ++i) {
+      typed += Abnt2().CharacterOf(vk, kShifts[i], i >= 7);
+      if (typed.back() == 0) typed.back() = u'_';
+    }
+    EXPECT_EQ(typed, characters) << "key " << vk;
   }
   EXPECT_EQ(Us().CharacterOf(110, 0, false), u'.');
   EXPECT_EQ(Abnt2().ScanCode(-1) + Abnt2().ScanCode(256) + Us().ScanCode(0xC1), 0);

@@ -27,6 +27,7 @@ void BeginRun(MSendInput& m, User32& user32, std::u16string_view text) {
   // An element that raised an error left its modifiers held.
   m.modifierBits = 0;
   m.groupEndMissing = m.braceEndMissing = false;
+  // Room for all that the first bound allows; records are written as they come and nothing is zeroed ahead.
   m.inputRecords.clear();
   m.inputRecords.reserve(kRecordStep + 1);
   m.upperBound = kRecordStep;
@@ -44,6 +45,8 @@ void AddKeyPress(MSendInput& m, std::int16_t vk, bool withShift, bool extended, 
     AddModifierEvent(m, kVkControl, true);
     AddModifierEvent(m, kVkMenu, true);
   }
+  // The two halves differ on purpose: applications have come to see the flag on the press alone and the scan
+  // code on the release alone.
   AddRecord(m, vk, 0, extended ? kKeyExtended : 0);
   AddRecord(m, vk, m.user32->MapVirtualKeyExA(vk, 0, m.keyboardLayout), kKeyUp);
   if (withCtrlAlt) {

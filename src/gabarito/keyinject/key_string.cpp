@@ -29,7 +29,8 @@ bool WantsCtrlAlt(std::int16_t key) { return (HighByte(key) & (kCtrlMask | kAltM
 
 bool IsLetter(char16_t c) { return (c >= u'A' && c <= u'Z') || (c >= u'a' && c <= u'z'); }
 
-// {a 0}, {a -70000} and {a x} are one key.
+// {a 0}, {a -70000} and {a x} are one key. Looked at before the conversion, which would refuse -70000 as it
+// refuses 32768; {a 2.5} is two keys, half to even.
 std::int16_t RepeatCount(std::u16string_view part) {
   const double count = Val(part);
   return count < 1 ? std::int16_t{1} : ToInt16(count);
@@ -110,10 +111,12 @@ void ParseBrace(MSendInput& m) {
 }
 
 void ParsePlainChar(MSendInput& m, char16_t c) {
+  // Signed: characters from U+8000 up are negative.
   const auto u = static_cast<std::int16_t>(c);
   if (u < 0 || u >= 256) return AddUnicodeChar(m, u);
   const std::int16_t key = c == u'~' ? kVkReturn : KeyOf(m, c);
   if (key == kNoKey) return AddUnicodeChar(m, u);
+  // The sender's Caps Lock acts on the keys sent too: with it on, the key of "a" alone would type "A".
   const bool turnedOver = IsLetter(c) && CapsLockOn(*m.user32);
   AddKeyPress(m, LowByte(key), WantsShift(key) != turnedOver, false, WantsCtrlAlt(key));
 }

@@ -16,34 +16,38 @@ namespace gabarito {
 namespace {
 
 constexpr std::int32_t kCasasDeMoeda = 2;
+using DoisDigitos = std::array<char16_t, kCasasDeMoeda>;
 
 // A double holds this many decimal digits without loss.
 constexpr std::size_t kDigitosExatos = 15;
 
-std::u16string Separador(const Kernel32& kernel32, std::int32_t item) {
+// A separator as the system gives it; a plain array, for each call reads two of them.
+struct Separador {
+  std::array<char16_t, 10> caracteres;
+  std::size_t tamanho = 0;
+
+  std::u16string_view Texto() const { return {caracteres.data(), tamanho}; }
+  operator std::u16string_view() const { return Texto(); }
+
+  // One character that is no digit, as in every usual region.
+  bool EhMarca() const { return tamanho == 1 && !EhDigito(caracteres[0]); }
+};
+
+struct Separadores {
+  Separador decimal;
+  Separador milhar;
+};
+
+// Filled in place: a copy of characters just written would wait for the writes.
+void LeSeparador(const Kernel32& kernel32, std::int32_t item, Separador& separador) {
   std::array<char, 10> buffer;
   buffer.fill('a');
   const std::int32_t escritos = kernel32.GetLocaleInfoA(kLocaleUserDefault, item, buffer);
-  std::u16string separador;
   // The count includes the terminating zero; a host that counts more than it was given is cut.
-  for (std::int32_t i = 0; i + 1 < std::min<std::int32_t>(escritos, buffer.size() + 1); ++i) {
-    separador += Chr(static_cast<unsigned char>(buffer[static_cast<std::size_t>(i)]));
+  if (escritos > 0) separador.tamanho = std::min(static_cast<std::size_t>(escritos) - 1, buffer.size());
+  for (std::size_t i = 0; i < separador.tamanho; ++i) {
+    separador.caracteres[i] = Chr(static_cast<unsigned char>(buffer[i]));
   }
-  return separador;
-}
-
-struct Separadores {
-  std::u16string decimal;
-  std::u16string milhar;
-};
-
-bool Contem(std::u16string_view texto, std::u16string_view procurado) { return InStr(texto, procurado) > 0; }
-
-// Digits and separators only, so that cleaning would change nothing and needs no copy.
-bool EstaLimpo(std::u16string_view valor, const Separadores& sep) {
-  return std::all_of(valor.begin(), valor.end(), [&](char16_t c) {
-    return EhDigito(c) || sep.decimal.find(c) != sep.decimal.npos || sep.milhar.find(c) != sep.milhar.npos;
-  });
 }
 
 // Positions are 16-bit: a separator further out is an overflow.
@@ -53,112 +57,141 @@ std::int32_t PosicaoDoSeparador(std::u16string_view valor, std::u16string_view s
   return posicao;
 }
 
-// `fracao` without any separator. The first copy is made only where there is something to remove.
-std::u16string_view TiraSeparadores(std::u16string_view fracao, const Separadores& sep,
-                                    std::u16string& guarda) {
-  for (const std::u16string* separador : {&sep.decimal, &sep.milhar}) {
-    if (separador->empty() || !Contem(fracao, *separador)) continue;
-    guarda = Substitui(fracao, *separador, u"");
-    fracao = guarda;
+// The two pieces of a number: views of its text, or of the copy that the steps made.
+struct Pecas {
+  std::u16string_view inteira;
+  std::u16string_view fracao;
+  std::u16string copia;
+};
+
+std::size_t DigitosNoComeco(std::u16string_view texto) {
+  std::size_t quantos = 0;
+  while (quantos < texto.size() && EhDigito(texto[quantos])) ++quantos;
+  return quantos;
+}
+
+// Digits with at most one decimal mark are clean and ungrouped as they stand: one look parts them.
+bool ParteSimples(std::u16string_view valor, const Separadores& sep, Pecas& pecas) {
+  if (!sep.decimal.EhMarca() || !sep.milhar.EhMarca() || valor.size() > kMaiorTextoPercorrido) return false;
+  const std::size_t marca = DigitosNoComeco(valor);
+  pecas.inteira = valor.substr(0, marca);
+  if (marca == valor.size()) return true;
+  pecas.fracao = valor.substr(marca + 1);
+  if (valor[marca] != sep.decimal.caracteres[0]) return false;
+  if (DigitosNoComeco(pecas.fracao) != pecas.fracao.size()) return false;
+  if (pecas.inteira.find_first_not_of(u'0') == pecas.inteira.npos) pecas.inteira = u"0";
+  return true;
+}
+
+// The same for every text, one step after the other.
+void PartePorPassos(std::u16string_view valor, FormaDeNumero forma, const Separadores& sep,
+                    const Regional& regional, PulaErros& pula, Pecas& pecas) {
+  std::u16string limpo(valor);
+  pula([&] {
+    std::u16string conjunto = u"0123456789";
+    conjunto.append(sep.decimal.Texto()).append(sep.milhar.Texto());
+    limpo = SoCaracteres(valor, conjunto);
+  });
+
+  std::int32_t posicao = 0;
+  pula([&] { posicao = PosicaoDoSeparador(limpo, sep.decimal); });
+  if (posicao == 0 && forma == FormaDeNumero::kVersao) {
+    pula([&] { posicao = PosicaoDoSeparador(limpo, sep.milhar); });
   }
-  return fracao;
+
+  std::u16string inteira = limpo;
+  std::u16string fracao;
+  if (posicao > 0) {
+    fracao = Substitui(Substitui(Mid(limpo, posicao + 1), sep.decimal, u""), sep.milhar, u"");
+    inteira = Left(limpo, posicao - 1);
+    if (Val(inteira) < 1) inteira = u"0";
+  }
+  if (InStr(inteira, sep.milhar) > 0) {
+    inteira = Substitui(inteira, sep.milhar, u"");
+    pula([&] { inteira = FormatNumber(inteira, u"#,#", regional); });
+  }
+  pecas.copia = inteira + fracao;
+  pecas.inteira = std::u16string_view(pecas.copia).substr(0, inteira.size());
+  pecas.fracao = std::u16string_view(pecas.copia).substr(inteira.size());
 }
 
 // Up to 15 digits the decimal arithmetic of Arredonda is exact, so the third digit decides alone and the
 // text needs no conversion. Marks that could read as anything but a mark take the long way.
-bool PrecisaDeArredonda(std::u16string_view fracao, const Separadores& sep, const Regional& regional) {
-  return fracao.size() > kDigitosExatos || !std::all_of(fracao.begin(), fracao.end(), EhDigito) ||
-         sep.decimal != regional.decimal || regional.decimal == regional.thousands ||
-         (regional.decimal != u"," && regional.decimal != u".");
+bool BastaATerceiraCasa(std::u16string_view fracao, std::u16string_view decimal, const Regional& regional) {
+  return fracao.size() <= kDigitosExatos && (decimal == u"," || decimal == u".") &&
+         decimal == regional.decimal && decimal != regional.thousands &&
+         DigitosNoComeco(fracao) == fracao.size();
 }
 
-std::u16string CentavosPelaTerceiraCasa(std::u16string_view fracao) {
-  std::int32_t centavos = 10 * ValorDoDigito(fracao[0]) + ValorDoDigito(fracao[1]);
-  if (fracao.size() > 2 && fracao[2] >= u'5') ++centavos;
-  centavos %= 100;  // a whole unit is not carried
-  return {static_cast<char16_t>(u'0' + centavos / 10), static_cast<char16_t>(u'0' + centavos % 10)};
+DoisDigitos CentavosPelaTerceiraCasa(std::u16string_view fracao) {
+  const auto seguinte = [](char16_t digito) { return static_cast<char16_t>(digito + 1); };
+  if (fracao.size() == 2 || fracao[2] < u'5') return {fracao[0], fracao[1]};
+  if (fracao[1] < u'9') return {fracao[0], seguinte(fracao[1])};
+  if (fracao[0] < u'9') return {seguinte(fracao[0]), u'0'};
+  return {u'0', u'0'};  // a whole unit is not carried
 }
 
 // A result without decimals, 0 or a whole unit, gives "00".
-std::u16string CentavosPeloNumero(std::u16string_view fracao, const Separadores& sep,
-                                  const Regional& regional, CacheDeArredonda& cache) {
-  const std::u16string texto = u"0" + sep.decimal + std::u16string(fracao);
+DoisDigitos CentavosPeloNumero(std::u16string_view fracao, std::u16string_view decimal,
+                               const Regional& regional, CacheDeArredonda& cache) {
+  std::u16string texto = u"0";
+  texto.append(decimal).append(fracao);
   const double arredondado = Arredonda(cache, ToDouble(texto, regional), kCasasDeMoeda);
   const std::u16string resultado = NumberToText(arredondado, regional.decimal);
   const std::int32_t marca = InStr(resultado, regional.decimal);
-  std::u16string centavos(marca > 0 ? Mid(resultado, marca + 1, kCasasDeMoeda) : std::u16string_view());
-  centavos.resize(kCasasDeMoeda, u'0');
+  DoisDigitos centavos = {u'0', u'0'};
+  if (marca > 0) std::ranges::copy(Mid(resultado, marca + 1, kCasasDeMoeda), centavos.begin());
   return centavos;
 }
 
-// The two decimals of an amount.
-std::u16string Centavos(std::u16string_view fracao, const Separadores& sep, const Regional& regional,
-                        CacheDeArredonda& cache) {
-  if (Grandeza(fracao) == 0) return u"00";
+DoisDigitos Centavos(std::u16string_view fracao, std::u16string_view decimal, const Regional& regional,
+                     CacheDeArredonda& cache) {
+  if (Grandeza(fracao) == 0) return {u'0', u'0'};
   if (fracao.size() == 1) return {fracao[0], u'0'};
-  if (!PrecisaDeArredonda(fracao, sep, regional)) return CentavosPelaTerceiraCasa(fracao);
-  return CentavosPeloNumero(fracao, sep, regional, cache);
+  if (BastaATerceiraCasa(fracao, decimal, regional)) return CentavosPelaTerceiraCasa(fracao);
+  return CentavosPeloNumero(fracao, decimal, regional, cache);
 }
 
 }  // namespace
 
-std::u16string SeparadorDecimal(const Kernel32& kernel32) { return Separador(kernel32, kLocaleDecimal); }
+std::u16string SeparadorDecimal(const Kernel32& kernel32) {
+  Separador separador;
+  LeSeparador(kernel32, kLocaleDecimal, separador);
+  return std::u16string(separador.Texto());
+}
 
-std::u16string SeparadorDeMilhar(const Kernel32& kernel32) { return Separador(kernel32, kLocaleThousands); }
+std::u16string SeparadorDeMilhar(const Kernel32& kernel32) {
+  Separador separador;
+  LeSeparador(kernel32, kLocaleThousands, separador);
+  return std::u16string(separador.Texto());
+}
 
 std::u16string FormataComoReal(std::u16string_view valor, FormaDeNumero forma, const Kernel32& kernel32,
                                const Regional& regional, CacheDeArredonda& cache) {
   PulaErros pula;
   Separadores sep;
-  pula([&] { sep.decimal = SeparadorDecimal(kernel32); });
-  pula([&] { sep.milhar = SeparadorDeMilhar(kernel32); });
+  pula([&] { LeSeparador(kernel32, kLocaleDecimal, sep.decimal); });
+  pula([&] { LeSeparador(kernel32, kLocaleThousands, sep.milhar); });
 
-  // The pieces are views of `valor` until a step changes them; what it makes is kept beside them.
-  std::u16string limpo;
-  if (!EstaLimpo(valor, sep)) {
+  Pecas pecas;
+  if (!ParteSimples(valor, sep, pecas)) PartePorPassos(valor, forma, sep, regional, pula, pecas);
+
+  DoisDigitos centavos;
+  if (forma == FormaDeNumero::kMoeda && !(pecas.inteira.empty() && pecas.fracao.empty())) {
     pula([&] {
-      limpo = SoCaracteres(valor, u"0123456789" + sep.decimal + sep.milhar);
-      valor = limpo;
+      centavos = Centavos(pecas.fracao, sep.decimal, regional, cache);
+      pecas.fracao = std::u16string_view(centavos.data(), centavos.size());
     });
   }
 
-  std::int32_t posicao = 0;
-  pula([&] { posicao = PosicaoDoSeparador(valor, sep.decimal); });
-  if (posicao == 0 && forma == FormaDeNumero::kVersao) {
-    pula([&] { posicao = PosicaoDoSeparador(valor, sep.milhar); });
-  }
-
-  std::u16string_view inteira = valor;
-  std::u16string_view fracao;
-  if (posicao > 0) {
-    fracao = Mid(valor, posicao + 1);
-    inteira = Left(valor, posicao - 1);
-    if (Grandeza(inteira) < 1) inteira = u"0";
-  }
-
-  std::u16string fracaoLimpa;
-  fracao = TiraSeparadores(fracao, sep, fracaoLimpa);
-
-  std::u16string agrupada;
-  if (Contem(inteira, sep.milhar)) {
-    agrupada = Substitui(inteira, sep.milhar, u"");
-    pula([&] { agrupada = FormatNumber(agrupada, u"#,#", regional); });
-    inteira = agrupada;
-  }
-
-  std::u16string centavos;
-  if (forma == FormaDeNumero::kMoeda && !(inteira.empty() && fracao.empty())) {
-    pula([&] {
-      centavos = Centavos(fracao, sep, regional, cache);
-      fracao = centavos;
-    });
-  }
-
-  std::u16string resultado;
-  const std::u16string& juncao = forma == FormaDeNumero::kVersao ? sep.milhar : sep.decimal;
-  resultado.reserve(inteira.size() + juncao.size() + fracao.size());
-  resultado.append(inteira);
-  if (!fracao.empty()) resultado.append(juncao).append(fracao);
+  const Separador& juncao = forma == FormaDeNumero::kVersao ? sep.milhar : sep.decimal;
+  if (pecas.fracao.empty()) return std::u16string(pecas.inteira);
+  const std::size_t tamanho = pecas.inteira.size() + juncao.tamanho + pecas.fracao.size();
+  std::u16string resultado(tamanho, u'0');
+  std::size_t i = 0;
+  for (const char16_t c : pecas.inteira) resultado[i++] = c;
+  for (const char16_t c : juncao.Texto()) resultado[i++] = c;
+  for (const char16_t c : pecas.fracao) resultado[i++] = c;
   return resultado;
 }
 

@@ -1,0 +1,125 @@
+#include "gabarito/rules/documentos.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <new>
+#include <random>
+
+#include "gabarito/platform/number.h"
+#include "gabarito/rules/texto.h"
+#include "tabela.h"
+
+namespace {
+std::size_t alocacoes = 0;
+}  // namespace
+
+[[gnu::noinline]] void* operator new(std::size_t tamanho) {
+  ++alocacoes;
+  if (void* memoria = std::malloc(tamanho)) return memoria;
+  throw std::bad_alloc();
+}
+[[gnu::noinline]] void operator delete(void* memoria) noexcept { std::free(memoria); }
+[[gnu::noinline]] void operator delete(void* memoria, std::size_t) noexcept { std::free(memoria); }
+
+namespace gabarito {
+namespace {
+
+using testing::PrintToString;
+
+const Regional kBrasil;
+
+bool ValidaCartao(std::u16string_view s) { return ValidaCartaoCredito(s, kBrasil); }
+
+const struct {
+  bool (*valida)(std::u16string_view);
+  std::u16string_view aceitos, recusados;
+} kVerificacoes[] = {
+    {ValidaCPF, u"111.444.777-35|11144477735| 111 444.777/35- |11111111111|000.000.0O0-00|A0000000000",
+     u"111.444.777-36|111.444.777-25|1114447773|111444777350||11144477735\t"},
+    {ValidaCNPJ,
+     u"11.222.333/0001-81|11222333000181|33000167|60701190|33592510|33.000.167|1E000000000064|&H00000F",
+     u"11.222.333/0001-82|11.222.333/0001-71|00.000.000/0000-00|00000000|33000168|112223330001|"
+     u"ABCDEFGHIJKLMN|0E00000000000|"},
+    {ValidaCartao,
+     u"4111 1111 1111 1111|4111111111111111|4111-1111-1111-1111|0|18|(18)|R$ 1,8|00000000000000000018|&HFF|"
+     u"18----------------------------------------------------------------------------------------------",
+     u"4111 1111 1111 1112|| - |4111a|000000000000000000018|1,,8|10|"
+     u"18xxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxx"}};
+
+TEST(Documentos, PassWithRightCheckDigitsWithoutAnAllocation) {
+  for (const auto& verificacao : kVerificacoes) {
+    for (const auto& s : Divide(verificacao.aceitos, u'|')) {
+      const std::size_t antes = alocacoes;
+      const bool aceito = verificacao.valida(s);
+      EXPECT_EQ(alocacoes, antes) << PrintToString(s);
+      EXPECT_TRUE(aceito) << PrintToString(s);
+    }
+  }
+}
+
+TEST(Documentos, AreRefusedWithWrongDigitsOrLength) {
+  for (const auto& [valida, aceitos, recusados] : kVerificacoes) {
+    for (const auto& s : Divide(recusados, u'|')) EXPECT_FALSE(valida(s)) << PrintToString(s);
+  }
+}
+
+// The rules one step after the other, over texts that are really copied.
+std::u16string Sem(std::u16string s, std::u16string_view separadores) {
+  for (const char16_t c : separadores) s = Substitui(s, std::u16string_view(&c, 1), u"");
+  return s;
+}
+
+std::int32_t Digito(const std::u16string& s, std::int32_t i) {
+  return static_cast<std::int32_t>(Val(Mid(s, i, 1)));
+}
+
+// Whether digit `n` is the check digit of those before it; weights run from 2 at the end and start again.
+bool Modulo11(const std::u16string& s, std::int32_t n, std::int32_t pesos) {
+  std::int32_t soma = 0;
+  for (std::int32_t i = 1; i < n; ++i) soma += Digito(s, i) * ((n - 1 - i) % pesos + 2);
+  return Digito(s, n) == (soma % 11 > 1 ? 11 - soma % 11 : 0);
+}
+
+bool Modulo10(const std::u16string& s) {
+  std::int32_t soma = 0;
+  for (std::int32_t i = Len(s), peso = 1; i >= 1; --i, peso = 3 - peso) {
+    soma += Digito(s, i) * peso / 10 + Digito(s, i) * peso % 10;
+  }
+  return soma % 10 == 0;
+}
+
+bool CPFPorPassos(std::u16string_view texto) {
+  const std::u16string s = Sem(std::u16string(texto), u"./- ");
+  return Len(Trim(s)) == 11 && Modulo11(s, 10, 10) && Modulo11(s, 11, 10);
+}
+
+bool CNPJPorPassos(std::u16string_view texto) {
+  const std::u16string s = Sem(std::u16string(texto), u". /-");
+  if ((Len(s) != 8 && Len(s) != 14) || !(Val(s) > 0)) return false;
+  return Len(s) == 8 ? Modulo10(s) : Modulo11(s, 13, 8) && Modulo11(s, 14, 8);
+}
+
+bool CartaoPorPassos(std::u16string_view texto) {
+  const std::u16string s = Sem(std::u16string(texto), u"- ");
+  return IsNumeric(s, kBrasil) && Len(SoDigitos(s)) <= 20 && Modulo10(SoDigitos(s));
+}
+
+TEST(Documentos, FastChecksAnswerAsTheStepsDoOnAnyText) {
+  constexpr std::u16string_view kAlfabeto = u"0000011122346789.-/ ED&H,";
+  std::mt19937 sorteio(20240305);
+  std::size_t aceitos[3] = {};
+  for (std::size_t n = 0; n < 30000; ++n) {
+    const std::size_t letras = n % 3 == 0 ? kAlfabeto.size() : 16 + n % 5;
+    std::u16string s(sorteio() % 24, u'0');
+    for (char16_t& c : s) c = kAlfabeto[sorteio() % letras];
+    ASSERT_EQ(ValidaCPF(s), CPFPorPassos(s)) << PrintToString(s);
+    ASSERT_EQ(ValidaCNPJ(s), CNPJPorPassos(s)) << PrintToString(s);
+    ASSERT_EQ(ValidaCartao(s), CartaoPorPassos(s)) << PrintToString(s);
+    for (std::size_t i = 0; i < 3; ++i) aceitos[i] += kVerificacoes[i].valida(s);
+  }
+  for (const std::size_t quantos : aceitos) EXPECT_GT(quantos, 10u);
+}
+
+}  // namespace
+}  // namespace gabarito

@@ -48,6 +48,7 @@ Scaled Fitted(Wide coefficient, std::int32_t scale) {
     if (coefficient > kLargestCoefficient / 10) throw Erro(kOverflow);
     coefficient *= 10;
   }
+  // Each try starts from all digits: dropping them one by one would round twice, 0.45 to 0.5 to 1.
   std::int32_t surplus = std::max(0, scale - kLargestScale);
   while (surplus < scale && Shortened(coefficient, surplus) > kLargestCoefficient) ++surplus;
   const Scaled fitted{Shortened(coefficient, surplus), scale - surplus};
@@ -125,6 +126,7 @@ std::u16string NumberToText(double value, std::u16string_view decimal) {
   const std::int32_t whole = static_cast<std::int32_t>(digits.size()) + number.exponent;
 
   std::u16string text;
+  // ToSignificant has no negative zero, so "-0" is never written.
   if (number.negative) text.push_back(u'-');
   if (whole > kMostWholeDigits || whole < -kMostLeadingZeros) {
     AppendExponentForm(text, digits, whole - 1, decimal);

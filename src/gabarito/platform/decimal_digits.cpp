@@ -96,6 +96,8 @@ double DecimalReader::Value(std::int64_t exponent) const {
 double DecimalReader::Parse(std::int64_t power) const {
   constexpr std::int64_t kFarBeyond = 2000;  // every double lies within 10^-324 and 10^309
   constexpr std::size_t kExponentRoom = 24;
+  // Judged before a text is made of it: the exponent of "1e99999999999999" would be out of range for the
+  // parser with no hint on which side.
   const std::int64_t magnitude = power + static_cast<std::int64_t>(count_);
   if (magnitude > kFarBeyond) return std::numeric_limits<double>::infinity();
   if (magnitude < -kFarBeyond) return 0;

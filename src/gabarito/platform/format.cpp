@@ -44,6 +44,7 @@ Whole Rounded(double value) {
     whole.digits[whole.count++] = static_cast<char16_t>(*at);
   }
   whole.zeros = number.exponent > 0 ? static_cast<std::size_t>(number.exponent) : 0;
+  // -0.4 gives "00", not "-00".
   whole.negative = number.negative && coefficient != 0;
   return whole;
 }
@@ -73,6 +74,7 @@ std::u16string Grouped(const Whole& whole, std::u16string_view separator) {
   return text;
 }
 
+// Done before a text is read: one that comes back unchanged must not hide a pattern that is none.
 void CheckPattern(std::u16string_view pattern) {
   if (pattern != u"#,#" && !IsZeros(pattern)) throw Erro(kInvalidProcedureCall);
 }

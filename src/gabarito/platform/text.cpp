@@ -97,7 +97,7 @@ std::u16string UCase(std::u16string_view text) {
 std::int32_t InStr(std::int32_t start, std::u16string_view text, std::u16string_view sought,
                    Comparison comparison) {
   const std::size_t offset = OffsetOf(start);
-  if (offset >= text.size()) return 0;
+  if (offset >= text.size()) return 0;  // for the empty text sought too, which a search would find here
   if (comparison == Comparison::kOrdinal) {
     const std::size_t found = text.find(sought, offset);
     return found == std::u16string_view::npos ? 0 : static_cast<std::int32_t>(found) + 1;

@@ -29,7 +29,8 @@ bool IsSameWord(std::u16string_view a, std::u16string_view b) {
   return a.size() == b.size() && InStr(1, a, b, Comparison::kIgnoreCase) == 1;
 }
 
-// The number of a value that has one.
+// The number of a value that has one. A text is read the same on every machine: what one stored, another
+// loads.
 double ToNumber(const Variant& value) {
   return std::visit(Conversion{
                         kRefusal<double>,
@@ -83,6 +84,7 @@ bool SameValue(const Variant& a, const Variant& b) {
   const auto* const first = std::get_if<FontRef>(&a);
   const auto* const second = std::get_if<FontRef>(&b);
   if (first == nullptr || second == nullptr) return a == b;
+  // By look, since a default font is made anew each time that one is asked for.
   if (*first == nullptr || *second == nullptr) return *first == *second;
   return **first == **second;
 }

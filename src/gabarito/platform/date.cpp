@@ -45,7 +45,8 @@ struct DayAndSecond {
 
 // False when `date` lies outside the calendar.
 bool Split(Date date, DayAndSecond& split) {
-  // Written so that what is no number fails it, before it is made an integer.
+  // Both ends are open, as the first day reaches down to -657434.99 (its fraction counts away from zero) and
+  // the last one up to 2958465.99. Written so that what is no number fails it, before it is made an integer.
   if (!(date > kFirstDay - 1 && date < kLastDay + 1)) return false;
   const double day = std::trunc(date);
   split.day = static_cast<std::int32_t>(day);
@@ -81,6 +82,7 @@ Date DateFromParts(const DateParts& parts) {
   return day < 0 ? day - time : day + time;
 }
 
+// The year is taken off in blocks of 400, 100, 4 and 1 years, each counted from 1 March.
 DateParts PartsOf(Date date) {
   DayAndSecond split;
   if (!Split(date, split)) throw Erro(kOverflow);

@@ -16,7 +16,10 @@ constexpr std::u16string_view kMonthNames[] = {
 constexpr std::size_t kLettersOfShortName = 3;
 
 bool IsDigit(char16_t c) { return c >= u'0' && c <= u'9'; }
-bool IsLetter(char16_t c) { return (UCase(c) >= u'A' && UCase(c) <= u'Z') || UCase(c) == u'Ç'; }
+// By range and not by UCase, to which the long s is an S: no month begins with one.
+bool IsLetter(char16_t c) {
+  return (c >= u'A' && c <= u'Z') || (c >= u'a' && c <= u'z') || c == u'Ç' || c == u'ç';
+}
 bool IsMark(char16_t c) { return c == u'/' || c == u'-' || c == u'.'; }
 
 // What stands between two marks. Nothing is a piece too: the year of 12/03/.
@@ -32,6 +35,8 @@ struct Piece {
 // What parts two pieces. kOf is the word "de" between blanks.
 enum class Gap { kNone, kBlanks, kOf, kMark };
 
+// One pass over the text from left to right. Each routine reads one thing at at_ and moves on; the only
+// steps back are to the start, when the text is no time alone, and over one piece that proves to be an hour.
 class Reader {
  public:
   Reader(std::u16string_view text, const Regional& regional, Date now)
@@ -66,6 +71,8 @@ class Reader {
     return at_ > start;
   }
 
+  // Blanks belong to the mark that they surround: "5 / 3" is one gap. A blank behind "de" tells the word from
+  // the beginning of "dezembro".
   Gap ReadGap() {
     const bool blanks = SkipBlanks();
     if (IsMark(Peek())) {
@@ -91,6 +98,7 @@ class Reader {
     return !IsLetter(Peek()) || Peek() == u'T' || ReadMonthName(piece);
   }
 
+  // Stops at the fifth digit, so that the value never overflows.
   bool ReadNumber(Piece& piece) {
     piece.kind = Piece::kNumber;
     for (; IsDigit(Peek()); ++at_) {
@@ -104,6 +112,7 @@ class Reader {
     const std::size_t start = at_;
     while (IsLetter(Peek())) ++at_;
     const std::u16string_view word = text_.substr(start, at_ - start);
+    // Exactly three letters or all of them: "marc" and "setemb" name nothing.
     const auto names = [word](std::u16string_view name) {
       if (word.size() == kLettersOfShortName) name = name.substr(0, kLettersOfShortName);
       return std::equal(word.begin(), word.end(), name.begin(), name.end(),
@@ -115,7 +124,7 @@ class Reader {
     return found != std::end(kMonthNames);
   }
 
-  // Whether the number just read is an hour, as the 7 of "12/03/2024 7 :30".
+  // Whether the number just read is an hour, as the 10 of "12/03 10:30", which is no third piece.
   bool IsColonNext() const {
     const std::size_t next = text_.find_first_not_of(u' ', at_);
     return next != std::u16string_view::npos && text_[next] == u':';
@@ -135,6 +144,7 @@ class Reader {
       Piece& piece = pieces[count];
       if (!ReadPiece(piece)) return false;
       const bool isHour = piece.kind == Piece::kNumber && text_[start - 1] == u' ' && IsColonNext();
+      // Nothing is a piece behind a mark only: the blank of "12/2024 T7:30" begins no third one.
       if (gap != Gap::kMark && (isHour || piece.kind == Piece::kNothing)) {
         at_ = before;
         break;
@@ -151,6 +161,7 @@ class Reader {
     return count == 2 ? TakeMonthAndYear(pieces, parts) : TakeThreePieces(pieces, parts);
   }
 
+  // Never a day and a month: 25/12 would be a month 25. Two digits at least: 01/3 is more likely cut short.
   bool TakeMonthAndYear(const Piece (&pieces)[3], DateParts& parts) const {
     parts.day = 1;
     return pieces[1].digits >= 2 && TakeMonth(pieces[0], parts) && TakeYear(pieces[1], parts);
@@ -187,6 +198,7 @@ class Reader {
 
   // To the first character of the time behind a date; false when nothing parts the two.
   bool SkipToTime() {
+    // Behind "12/03/ 7:30" the blank has been read with the mark; "12/03/7:30" has none, and is no date.
     const bool blanks = text_[at_ - 1] == u' ' || SkipBlanks();
     const bool mark = Skip(u'T');
     SkipBlanks();

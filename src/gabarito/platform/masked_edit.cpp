@@ -72,7 +72,8 @@ bool MaskedEdit::Fits(const Position& position, char16_t character) {
   }
 }
 
-// What a place holds once `character`, which fits, is entered.
+// What a place holds once `character`, which fits, is entered. The blank of "#" is kept as the prompt, so
+// that there is one kind of empty place.
 char16_t MaskedEdit::Entered(const Position& position, char16_t character) {
   if (position.place == u'#' && character == u' ') return kPrompt;
   if (position.letters == Letters::kCapital) return UCase(character);
@@ -93,6 +94,8 @@ std::u16string MaskedEdit::Template() const {
 std::size_t MaskedEdit::Find(std::size_t from, char16_t character) const {
   const bool isSeparator = !IsDigit(character) && !IsLetter(character);
   std::size_t at = from;
+  // A separator ahead is an order to go there (1/2 in ##/##); a letter or digit ahead is only part of the
+  // frame, or the 1 of 1234 would be lost to the frame of (11) ####.
   for (; at < positions_.size(); ++at) {
     if (IsPlace(at) ? Fits(positions_[at], character)
                     : (isSeparator || at == from) && IsLiteral(at, character)) {
@@ -113,6 +116,7 @@ void MaskedEdit::Empty(std::u16string& text, std::size_t start, std::size_t leng
 
 void MaskedEdit::Mask(std::u16string_view pattern) {
   if (pattern.size() > kLongest) throw Erro(kInvalidPropertyValue);
+  // Whatever can fail comes before the first change.
   std::vector<Position> positions = Parse(pattern);
   std::u16string mask(pattern);
   positions_ = std::move(positions);
@@ -150,6 +154,8 @@ void MaskedEdit::SelText(std::u16string_view text) {
     Select(end, 0);
     return;
   }
+  // In a copy: `text` may be a piece of text_. The caret does not run over literals between two characters,
+  // so that the box's own text (12134 in ##1##) meets each of them and comes back as it was.
   std::u16string entered = text_;
   Empty(entered, start_, length_);
   std::size_t caret = start_;
@@ -164,6 +170,7 @@ void MaskedEdit::SelText(std::u16string_view text) {
 }
 
 bool MaskedEdit::TypePlain(char16_t character) {
+  // A text longer than the limit may stand there already, set by a program: it stays, and takes no more.
   const auto limit = static_cast<std::size_t>(max_length_);
   if (limit != 0 && text_.size() - length_ >= limit) return false;
   text_.replace(start_, length_, 1, character);
@@ -174,6 +181,8 @@ bool MaskedEdit::TypePlain(char16_t character) {
 bool MaskedEdit::Type(char16_t character) {
   if (IsControl(character)) return false;
   if (IsPlain()) return TypePlain(character);
+  // The caret has run over the "/" of ##/## by itself when the person types it. Asked before Find, which
+  // would go on to the next "/" of ##/##/##.
   const bool isTypedOnceMore = length_ == 0 && start_ > 0 && IsLiteral(start_ - 1, character) &&
                                !IsLiteral(start_, character) && !IsDigit(character) && !IsLetter(character);
   if (isTypedOnceMore) return true;
@@ -189,6 +198,7 @@ bool MaskedEdit::Type(char16_t character) {
   return true;
 }
 
+// Steps over literals: they cannot be emptied, and a Backspace that stuck at one would be a dead key.
 void MaskedEdit::Backspace() {
   if (length_ > 0) return Delete();
   std::size_t at = start_;

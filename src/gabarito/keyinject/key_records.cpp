@@ -45,8 +45,8 @@ void AddKeyPress(MSendInput& m, std::int16_t vk, bool withShift, bool extended, 
     AddModifierEvent(m, kVkControl, true);
     AddModifierEvent(m, kVkMenu, true);
   }
-  // The two halves differ on purpose: applications have come to see the flag on the press alone and the scan
-  // code on the release alone.
+  // The halves are not alike, and receivers can tell: the flag is on the press alone, the scan code on the
+  // release alone.
   AddRecord(m, vk, 0, extended ? kKeyExtended : 0);
   AddRecord(m, vk, m.user32->MapVirtualKeyExA(vk, 0, m.keyboardLayout), kKeyUp);
   if (withCtrlAlt) {

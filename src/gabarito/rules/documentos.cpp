@@ -45,12 +45,13 @@ bool ConfereCPF(const decltype(kFeitioDeCPF)::Pistas& pistas) {
          kF.Digito(pistas, 11) == DigitoModulo11(kF.Soma(pistas, kSegundo));
 }
 
+constexpr auto kPesosDoSegundoDoCNPJ = kFeitioDeCNPJ.Pesos({6, 5, 4, 3, 2, 9, 8, 7, 6, 5, 4, 3, 2});
+
 bool ConfereCNPJ(const decltype(kFeitioDeCNPJ)::Pistas& pistas) {
   constexpr const auto& kF = kFeitioDeCNPJ;
   static constexpr auto kPrimeiro = kF.Pesos({5, 4, 3, 2, 9, 8, 7, 6, 5, 4, 3, 2});
-  static constexpr auto kSegundo = kF.Pesos({6, 5, 4, 3, 2, 9, 8, 7, 6, 5, 4, 3, 2});
   return kF.Digito(pistas, 13) == DigitoModulo11(kF.Soma(pistas, kPrimeiro)) &&
-         kF.Digito(pistas, 14) == DigitoModulo11(kF.Soma(pistas, kSegundo));
+         kF.Digito(pistas, 14) == DigitoModulo11(kF.Soma(pistas, kPesosDoSegundoDoCNPJ));
 }
 
 constexpr std::int32_t DobroDeUmDigito(std::int32_t digito) {
@@ -97,8 +98,9 @@ bool ValidaCPF(std::u16string_view s) {
 
 bool ValidaCNPJ(std::u16string_view s) {
   decltype(kFeitioDeCNPJ)::Pistas pistas;
+  // Weights are above 0, so a sum of 0 is a number of zeros.
   if (kFeitioDeCNPJ.Le(s, pistas)) {
-    return ConfereCNPJ(pistas) && pistas != decltype(pistas){};
+    return ConfereCNPJ(pistas) && kFeitioDeCNPJ.Soma(pistas, kPesosDoSegundoDoCNPJ) > 0;
   }
   std::array<char16_t, kFeitioDeCNPJ.Digitos()> limpo;
   const std::size_t tamanho = TiraSeparadores(s, limpo);

@@ -1,0 +1,250 @@
+#include "cli/script/child_members.h"
+
+#include <limits>
+#include <optional>
+
+#include "cli/utf8.h"
+
+namespace gabarito::cli {
+namespace {
+
+constexpr std::int64_t kLeast32 = std::numeric_limits<std::int32_t>::min();
+constexpr std::int64_t kMost32 = std::numeric_limits<std::int32_t>::max();
+
+// One member of a kind of child. `write` is null for a member that is only shown, `dumped` tells whether a
+// dump shows it.
+template <class Widget>
+struct Member {
+  std::string_view name;
+  Json (*read)(const Widget&);
+  void (*write)(Widget&, std::string_view);
+  bool dumped = true;
+};
+
+float Length(std::string_view text) {
+  const Json value = JsonFromText(text, "a length");
+  if (!value.is_number()) throw UsageError("a length is a number of twips");
+  return value.get<float>();
+}
+
+std::int32_t Int32(std::string_view text) {
+  return static_cast<std::int32_t>(NumberFromText(text, "the member", kLeast32, kMost32));
+}
+
+std::int16_t Int16(std::string_view text) {
+  return static_cast<std::int16_t>(NumberFromText(text, "the member", -32768, 32767));
+}
+
+Color ColorFrom(std::string_view text) {
+  return static_cast<Color>(
+      NumberFromText(text, "BackColor", kLeast32, std::numeric_limits<std::uint32_t>::max()));
+}
+
+bool Boolean(std::string_view text) { return BooleanFromText(text, "the member"); }
+
+using memory::ComboWidget;
+using memory::LabelWidget;
+using memory::MaskedWidget;
+using memory::TextBoxWidget;
+
+template <class W>
+constexpr Member<W> kLeft = {"Left", [](const W& w) { return LengthToJson(w.Bounds().left); },
+                             [](W& w, std::string_view v) { w.Move(Length(v), {}, {}, {}); }};
+template <class W>
+constexpr Member<W> kTop = {"Top", [](const W& w) { return LengthToJson(w.Bounds().top); },
+                            [](W& w, std::string_view v) { w.Move(w.Bounds().left, Length(v), {}, {}); }};
+template <class W>
+constexpr Member<W> kWidth = {"Width", [](const W& w) { return LengthToJson(w.Bounds().width); },
+                              [](W& w, std::string_view v) { w.Move(w.Bounds().left, {}, Length(v), {}); }};
+template <class W>
+constexpr Member<W> kHeight = {"Height", [](const W& w) { return LengthToJson(w.Bounds().height); },
+                               [](W& w, std::string_view v) { w.Move(w.Bounds().left, {}, {}, Length(v)); }};
+template <class W>
+constexpr Member<W> kVisible = {"Visible", [](const W& w) { return Json(w.IsVisible()); },
+                                [](W& w, std::string_view v) { w.Visible(Boolean(v)); }};
+template <class W>
+constexpr Member<W> kEnabled = {"Enabled", [](const W& w) { return Json(w.IsEnabled()); },
+                                [](W& w, std::string_view v) { w.Enabled(Boolean(v)); }};
+template <class W>
+constexpr Member<W> kText = {"Text", [](const W& w) { return Json(ToUtf8(w.Entry().Text())); },
+                             [](W& w, std::string_view v) { w.Text(TextFromText(v)); }};
+template <class W>
+constexpr Member<W> kSelStart = {"SelStart", [](const W& w) { return Json(w.Entry().SelStart()); },
+                                 [](W& w, std::string_view v) { w.SelStart(Int32(v)); }};
+template <class W>
+constexpr Member<W> kSelLength = {"SelLength", [](const W& w) { return Json(w.Entry().SelLength()); },
+                                  [](W& w, std::string_view v) { w.SelLength(Int32(v)); }};
+template <class W>
+constexpr Member<W> kBackColor = {"BackColor", [](const W& w) { return Json(w.Color()); },
+                                  [](W& w, std::string_view v) { w.BackColor(ColorFrom(v)); }};
+
+constexpr Member<LabelWidget> kLabel[] = {
+    kLeft<LabelWidget>,
+    kTop<LabelWidget>,
+    kWidth<LabelWidget>,
+    kHeight<LabelWidget>,
+    kVisible<LabelWidget>,
+    {"Caption", [](const LabelWidget& w) { return Json(ToUtf8(w.Shown())); },
+     [](LabelWidget& w, std::string_view v) { w.Caption(TextFromText(v)); }},
+    {"AutoSize", [](const LabelWidget& w) { return Json(w.SizesItself()); },
+     [](LabelWidget& w, std::string_view v) { w.AutoSize(Boolean(v)); }},
+    kBackColor<LabelWidget>,
+};
+
+constexpr Member<TextBoxWidget> kTextBox[] = {
+    kLeft<TextBoxWidget>,
+    kTop<TextBoxWidget>,
+    kWidth<TextBoxWidget>,
+    kHeight<TextBoxWidget>,
+    kVisible<TextBoxWidget>,
+    kEnabled<TextBoxWidget>,
+    kText<TextBoxWidget>,
+    {"MaxLength", [](const TextBoxWidget& w) { return Json(w.Limit()); },
+     [](TextBoxWidget& w, std::string_view v) { w.MaxLength(Int32(v)); }},
+    kSelStart<TextBoxWidget>,
+    kSelLength<TextBoxWidget>,
+    kBackColor<TextBoxWidget>,
+};
+
+constexpr Member<ComboWidget> kCombo[] = {
+    kLeft<ComboWidget>,
+    kTop<ComboWidget>,
+    kWidth<ComboWidget>,
+    {"Height", [](const ComboWidget& w) { return LengthToJson(w.LineHeight()); }, nullptr},
+    kVisible<ComboWidget>,
+    kEnabled<ComboWidget>,
+    kText<ComboWidget>,
+    {"ListCount", [](const ComboWidget& w) { return Json(w.Entries().Count()); }, nullptr},
+    {"ListIndex", [](const ComboWidget& w) { return Json(w.Selected()); },
+     [](ComboWidget& w, std::string_view v) { w.ListIndex(Int16(v)); }},
+    kSelStart<ComboWidget>,
+    kSelLength<ComboWidget>,
+    {"ToolTipText", [](const ComboWidget& w) { return Json(ToUtf8(w.ToolTip())); },
+     [](ComboWidget& w, std::string_view v) { w.ToolTipText(TextFromText(v)); }},
+    {"DroppedDown", [](const ComboWidget& w) { return Json(w.DroppedDown()); },
+     [](ComboWidget& w, std::string_view v) { w.DropDown(Boolean(v)); }},
+    kBackColor<ComboWidget>,
+};
+
+constexpr Member<MaskedWidget> kMasked[] = {
+    kLeft<MaskedWidget>,
+    kTop<MaskedWidget>,
+    kWidth<MaskedWidget>,
+    kHeight<MaskedWidget>,
+    kVisible<MaskedWidget>,
+    kEnabled<MaskedWidget>,
+    kText<MaskedWidget>,
+    {"Mask", [](const MaskedWidget& w) { return Json(ToUtf8(w.Entry().Mask())); },
+     [](MaskedWidget& w, std::string_view v) { w.Mask(TextFromText(v)); }},
+    {"MaxLength", [](const MaskedWidget& w) { return Json(w.Entry().MaxLength()); },
+     [](MaskedWidget& w, std::string_view v) { w.MaxLength(Int16(v)); }},
+    kSelStart<MaskedWidget>,
+    kSelLength<MaskedWidget>,
+    {"Appearance", [](const MaskedWidget& w) { return Json(w.ShownAppearance()); },
+     [](MaskedWidget& w, std::string_view v) { w.Appearance(Int32(v)); }},
+    kBackColor<MaskedWidget>,
+    {"SelText", [](const MaskedWidget& w) { return Json(ToUtf8(w.Entry().SelText())); },
+     [](MaskedWidget& w, std::string_view v) { w.SelText(TextFromText(v)); }, false},
+};
+
+// Calls `visit(widget, members)` for the child with this name.
+template <class Visit>
+void WithChild(memory::FieldParts& parts, std::string_view name, Visit visit) {
+  for (LabelWidget& label : parts.lbl_controle) {
+    if (label.ChildName() == name) return visit(label, std::span(kLabel));
+  }
+  for (auto* boxes : {&parts.txt_entrada, &parts.txt_entrada3D}) {
+    for (TextBoxWidget& box : *boxes) {
+      if (box.ChildName() == name) return visit(box, std::span(kTextBox));
+    }
+  }
+  if (name == "Combo1") return visit(parts.Combo1, std::span(kCombo));
+  if (name == "MaskEdBox1") return visit(parts.MaskEdBox1, std::span(kMasked));
+  throw UsageError("there is no child '" + std::string(name) + "'");
+}
+
+template <class Members>
+const auto& FindMember(const Members& members, std::string_view child, std::string_view name) {
+  for (const auto& member : members) {
+    if (member.name == name) return member;
+  }
+  throw UsageError(std::string(child) + " has no member '" + std::string(name) + "'");
+}
+
+struct Operations {
+  std::string_view child;  // the name, or its beginning
+  std::string_view members;
+};
+
+// What the field uses of each child.
+constexpr Operations kOperations[] = {
+    {"lbl_controle",
+     " Move Visible BackColor Font Caption AutoSize Left Top Width BackStyle BorderStyle Refresh "},
+    {"txt_entrada",
+     " Move Visible BackColor Font Text SelStart SelLength Enabled SetFocus MaxLength Left Top Width Height "
+     "Refresh "},
+    {"Combo1",
+     " Move Visible BackColor Font Text SelStart SelLength Enabled SetFocus AddItem Clear List ListCount "
+     "ListIndex Height Width Left ToolTipText hWnd "},
+    {"MaskEdBox1",
+     " Move Visible BackColor Font Text SelStart SelLength Enabled SetFocus Mask SelText MaxLength "
+     "Appearance "
+     "Height "},
+    {"UserControl", " Width Height BackColor Font Ambient PropertyChanged Refresh "},
+};
+
+}  // namespace
+
+Json ReadChild(memory::FieldParts& parts, std::string_view child, std::string_view member) {
+  Json value;
+  WithChild(parts, child,
+            [&](auto& widget, auto members) { value = FindMember(members, child, member).read(widget); });
+  return value;
+}
+
+void WriteChild(memory::FieldParts& parts, std::string_view child, std::string_view member,
+                std::string_view value) {
+  WithChild(parts, child, [&](auto& widget, auto members) {
+    const auto& found = FindMember(members, child, member);
+    if (found.write == nullptr) throw UsageError(std::string(member) + " is read only");
+    found.write(widget, value);
+  });
+}
+
+void CheckOperation(std::string_view child, std::string_view member) {
+  bool known = child == "UserControl";
+  for (const memory::ChildDesign& design : memory::kChildren) known = known || design.name == child;
+  if (!known) throw UsageError("there is no child '" + std::string(child) + "'");
+  const std::string word = " " + std::string(member) + " ";
+  for (const Operations& row : kOperations) {
+    if (child.starts_with(row.child) && row.members.find(word) != std::string_view::npos) return;
+  }
+  throw UsageError("the field does not use " + std::string(child) + "." + std::string(member));
+}
+
+memory::Focusable* InputChildOf(memory::FieldParts& parts, std::string_view name) {
+  for (memory::Focusable* child : parts.InTabOrder()) {
+    if (child->Name() == name) return child;
+  }
+  return nullptr;
+}
+
+Json DumpChildren(memory::FieldParts& parts) {
+  const memory::SurfaceWidget& surface = parts.surface;
+  Json dump = {{"UserControl",
+                {{"Width", LengthToJson(surface.Bounds().width)},
+                 {"Height", LengthToJson(surface.Bounds().height)},
+                 {"BackColor", surface.Color()}}}};
+  for (const memory::ChildDesign& design : memory::kChildren) {
+    WithChild(parts, design.name, [&](auto& widget, auto members) {
+      Json child = Json::object();
+      for (const auto& member : members) {
+        if (member.dumped) child[std::string(member.name)] = member.read(widget);
+      }
+      dump[std::string(design.name)] = std::move(child);
+    });
+  }
+  return dump;
+}
+
+}  // namespace gabarito::cli

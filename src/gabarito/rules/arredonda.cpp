@@ -20,6 +20,7 @@ double Arredonda(CacheDeArredonda& cache, double valor, std::int32_t casas) {
   if (valor == cache.ultimoValor && casas == cache.ultimasCasas) return cache.ultimoResultado;
   if (valor == 0) return 0;
 
+  // The places are kept before their power of ten, which can fail and then leaves the older factor.
   if (casas != cache.ultimasCasas) {
     cache.ultimasCasas = casas;
     cache.ultimoFator = ExigeFinito(std::pow(10.0, casas));
@@ -31,6 +32,7 @@ double Arredonda(CacheDeArredonda& cache, double valor, std::int32_t casas) {
   const double escalado = cache.ultimoFator == 1.0 ? valor : DecimalProduct(valor, cache.ultimoFator);
   double inteiro = std::trunc(escalado);
   const double digito = std::abs(std::trunc(ExigeFinito(escalado - inteiro) * 10));
+  // Truncated to one digit before it is judged: 0.49999 has a 4 here.
   if (digito > 4) inteiro += escalado < 0 ? -1 : 1;
   if (cache.ultimoFator != 1.0) inteiro = ExigeFinito(inteiro / cache.ultimoFator);
 

@@ -59,6 +59,7 @@ constexpr std::int32_t DobroDeUmDigito(std::int32_t digito) {
   return dobro > 9 ? dobro - 9 : dobro;  // the sum of its two digits
 }
 
+// The root of a CNPJ ends in a digit of its own rule: the digits in odd positions count double.
 bool ConfereRaizDeCNPJ(std::u16string_view raiz) {
   std::int32_t soma = ValorDoDigito(raiz.back());
   for (std::size_t i = 0; i + 1 < kTamanhoDaRaiz; ++i) {
@@ -68,6 +69,7 @@ bool ConfereRaizDeCNPJ(std::u16string_view raiz) {
   return soma % 10 == 0;
 }
 
+// The usual 16 digits, whose weights are known; any other count goes through ConfereLuhn.
 bool ConfereCartao(const decltype(kFeitioDeCartao)::Pistas& pistas) {
   constexpr const auto& kF = kFeitioDeCartao;
   static constexpr auto kPesos = kF.Pesos({2, 1, 2, 1, 2, 1, 2, 1, 2, 1, 2, 1, 2, 1, 2, 1});
@@ -92,6 +94,7 @@ bool ConfereLuhn(const std::int16_t* digitos, std::size_t quantos) {
 bool ValidaCPF(std::u16string_view s) {
   decltype(kFeitioDeCPF)::Pistas pistas;
   if (kFeitioDeCPF.Le(s, pistas)) return ConfereCPF(pistas);
+  // A letter is not refused: in "A0000000000" it counts as 0.
   std::array<char16_t, kFeitioDeCPF.Digitos()> limpo;
   return TiraSeparadores(s, limpo) == limpo.size() && ConfereCPF(kFeitioDeCPF.Distribui(limpo));
 }
@@ -115,6 +118,7 @@ bool ValidaCartaoCredito(std::u16string_view s, const Regional& regional) {
   decltype(kFeitioDeCartao)::Pistas pistas;
   if (kFeitioDeCartao.Le(s, pistas)) return ConfereCartao(pistas);
 
+  // "R$ 1,8" is a number too: what is no digit is judged by IsNumeric and then left out.
   std::array<std::int16_t, kMaisDigitosDeCartao> digitos;
   std::array<char16_t, 64> limpo;
   std::size_t quantos = 0;
@@ -128,6 +132,7 @@ bool ValidaCartaoCredito(std::u16string_view s, const Regional& regional) {
     if (tamanho < limpo.size()) limpo[tamanho] = c;
     ++tamanho;
   }
+  // Up to 20 bare digits are always a number, and no digits at all (" - ") never one.
   const bool soDigitos = quantos == tamanho;
   if (soDigitos && quantos == 0) return false;
   if (!soDigitos) {

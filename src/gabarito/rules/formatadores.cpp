@@ -11,6 +11,7 @@
 namespace gabarito {
 namespace {
 
+// A text that has the form already, as on every exit after the first, comes back as it is.
 template <std::size_t kTamanho>
 std::u16string Pontua(std::u16string_view s, const Feitio<kTamanho>& feitio) {
   typename Feitio<kTamanho>::Pistas pistas;
@@ -37,7 +38,7 @@ std::u16string FormataComoCartao(std::u16string_view s) {
   constexpr std::size_t kGrupo = 4;
   constexpr std::size_t kCaracteres = 16;
   std::array<char16_t, kFeitioDeCartao.Tamanho()> grupos;
-  grupos.fill(u' ');
+  grupos.fill(u' ');  // what the text does not reach stays blank: the separators are always there
   std::size_t copiados = 0;
   for (const char16_t c : s) {
     if (c == u' ') continue;

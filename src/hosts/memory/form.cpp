@@ -9,9 +9,16 @@
 #include "hosts/memory/plain_box.h"
 
 namespace gabarito::memory {
+namespace {
+
+// The virtual key of a character that comes without a key.
+constexpr std::int16_t kVkPacket = 231;
+
+}  // namespace
 
 Form::Form() : windows_(environment_) {}
-Form::~Form() = default;
+// What has the focus may go before the fields do.
+Form::~Form() { focused_ = nullptr; }
 
 Field& Form::AddField(std::string name) {
   auto field = std::make_unique<Field>(*this, std::move(name));
@@ -100,16 +107,15 @@ void Form::Deliver(const KeyEvent& event) {
   }
   Focusable* const receiver = focused_;
   if (receiver == nullptr || !receiver->CanTakeFocus()) return;
+  const std::int16_t vk = event.unicode != 0 ? kVkPacket : event.vk;
   if (event.up) {
-    receiver->KeyUp(event.vk, event.shift);
+    receiver->KeyUp(vk, event.shift);
     return;
   }
-  char16_t character = event.unicode;
-  if (event.vk != 0) {
-    if (!receiver->KeyDown(event.vk, event.shift)) return;
-    character =
-        environment_.keyboard.Layout().CharacterOf(event.vk, event.shift, environment_.keyboard.CapsLock());
-  }
+  if (!receiver->KeyDown(vk, event.shift)) return;
+  const Keyboard& keyboard = environment_.keyboard;
+  const char16_t character =
+      event.unicode != 0 ? event.unicode : keyboard.Layout().CharacterOf(vk, event.shift, keyboard.CapsLock());
   // The character goes to the entry that saw the key go down, if that is still on show.
   if (character != 0 && receiver->CanTakeFocus()) receiver->Character(character);
 }

@@ -1,0 +1,75 @@
+#include <ostream>
+#include <utility>
+
+#include "cli/commands.h"
+#include "cli/local_clock.h"
+#include "cli/one_line.h"
+#include "cli/properties.h"
+#include "cli/utf8.h"
+#include "gabarito/keyinject/send_input.h"
+#include "hosts/memory/field.h"
+#include "hosts/memory/form.h"
+#include "hosts/memory/plain_box.h"
+
+namespace gabarito::cli {
+namespace {
+
+std::u16string Decoded(const std::string& value, const char* option) {
+  auto text = ToUtf16(value);
+  if (!text) throw UsageError(std::string("the value of ") + option + " is not valid UTF-8");
+  return *std::move(text);
+}
+
+// Shows message boxes as lines of a stream. Reading the value of a field checks it once more, so what was
+// told when the field was left comes again: the same box twice in a row is one line.
+class BoxesAsLines final : public memory::Recorder {
+ public:
+  explicit BoxesAsLines(std::ostream& out) : out_(out) {}
+
+  void MsgBox(std::u16string_view text, std::int32_t, std::optional<std::u16string_view> title,
+              std::int32_t) override {
+    std::u16string line;
+    AppendOnOneLine(title.value_or(u"Gabarito"), line);
+    line.append(u": ");
+    AppendOnOneLine(text, line);
+    if (line == last_) return;
+    out_ << ToUtf8(line) << '\n';
+    last_ = std::move(line);
+  }
+
+  bool Shown() const { return !last_.empty(); }
+
+ private:
+  std::ostream& out_;
+  std::u16string last_;
+};
+
+}  // namespace
+
+int RunField(const FieldCommandOptions& options, std::ostream& out, std::ostream& err) {
+  std::u16string text;
+  std::u16string keys;
+  if (options.text) text = Decoded(*options.text, "--text");
+  if (options.keys) keys = Decoded(*options.keys, "--keys");
+
+  memory::Form form;
+  memory::Environment& system = form.System();
+  BoxesAsLines boxes(err);
+  system.recorder = &boxes;
+  system.clock.Set(LocalNow());
+  memory::Field& field = form.AddField("field");
+  memory::PlainBox& behind = form.AddBox("behind");
+  field.Create();
+  Apply(options.field, *field);
+
+  if (options.text) field->Text(text);
+  form.SetFocus(*field.Surface());
+  SendKeyString(form.AllWindows(), system.kernel, system.dialogs, keys, true);
+  form.Run();
+  form.SetFocus(behind);
+  out << ToUtf8(field->Text()) << '\n';
+  system.recorder = nullptr;
+  return boxes.Shown() ? kRefused : kNothingRefused;
+}
+
+}  // namespace gabarito::cli

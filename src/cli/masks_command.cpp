@@ -1,0 +1,58 @@
+#include <algorithm>
+#include <iomanip>
+#include <ostream>
+
+#include "cli/commands.h"
+#include "cli/properties.h"
+#include "gabarito/control/especie.h"
+#include "gabarito/control/interface.h"
+
+namespace gabarito::cli {
+namespace {
+
+std::string_view NameOf(TipoDeMembro tipo) {
+  switch (tipo) {
+    case TipoDeMembro::kMetodo:
+      return "method";
+    case TipoDeMembro::kFuncao:
+      return "function";
+    case TipoDeMembro::kPropriedade:
+      return "property";
+    case TipoDeMembro::kSoLeitura:
+      return "read-only property";
+  }
+  return "";
+}
+
+void WriteJson(std::ostream& out) {
+  Json kinds = Json::array();
+  for (const Especie& kind : Especies()) {
+    kinds.push_back({{"name", kind.nome}, {"number", kind.valor}, {"takes", kind.toma}});
+  }
+  Json members = Json::array();
+  for (const Membro& member : MembrosDaInterface()) {
+    members.push_back({{"name", member.nome}, {"is", NameOf(member.tipo)}});
+    if (!member.valor.empty()) members.back()["type"] = member.valor;
+  }
+  Json events = Json::array();
+  for (const Membro& event : Eventos()) events.push_back({{"name", event.nome}});
+  out << Json{{"masks", kinds}, {"members", members}, {"events", events}}.dump(2) << '\n';
+}
+
+void WriteText(std::ostream& out) {
+  std::size_t widest = 0;
+  for (const Especie& kind : Especies()) widest = std::max(widest, kind.nome.size());
+  for (const Especie& kind : Especies()) {
+    out << std::left << std::setw(static_cast<int>(widest)) << kind.nome << "  " << kind.valor << "  "
+        << kind.toma << '\n';
+  }
+}
+
+}  // namespace
+
+int RunMasks(ListForm form, std::ostream& out) {
+  form == ListForm::kJson ? WriteJson(out) : WriteText(out);
+  return kNothingRefused;
+}
+
+}  // namespace gabarito::cli

@@ -357,7 +357,7 @@ void Script::Unhook(std::string_view rest) {
 
 void Script::Message(std::string_view rest) {
   std::string_view word = Word(rest);
-  WindowHandle window = field_.Parts().Combo1.hWnd();
+  WindowHandle window = field_.Parts().Combo1.Window();
   if (word == "other") {
     window = other_window_;
     word = Word(rest);

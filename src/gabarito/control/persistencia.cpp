@@ -22,6 +22,15 @@ FontRef FontePadrao() {
   return fonte;
 }
 
+// The value as the type that its property has. Raises 13 on any other, so that the property stays as it was:
+// a stored form is not a text that somebody typed, and nothing in it is worth a guess.
+template <class Tipo>
+const Tipo& Como(const Variant& valor) {
+  const Tipo* certo = std::get_if<Tipo>(&valor);
+  if (certo == nullptr) throw Erro(kTypeMismatch);
+  return *certo;
+}
+
 Variant ComoVariant(Color cor) { return static_cast<std::int32_t>(cor); }
 
 }  // namespace
@@ -46,20 +55,20 @@ void UserControl_Initialize(Campo& c) {
 void UserControl_ReadProperties(Campo& c, const PropertyBag& PropBag) {
   PulaErros pula;
   const FontRef padrao = FontePadrao();
-  pula([&] { PoeFont(c, ToFont(PropBag.ReadProperty(kFont, padrao))); });
-  pula([&] { PoeAppearance(c, ToInt32(PropBag.ReadProperty(kAppearance, std::int32_t{1}))); });
-  pula([&] { PoeMaskText(c, ToText(PropBag.ReadProperty(kMaskText, std::u16string()))); });
+  pula([&] { PoeFont(c, Como<FontRef>(PropBag.ReadProperty(kFont, padrao))); });
+  pula([&] { PoeAppearance(c, Como<std::int32_t>(PropBag.ReadProperty(kAppearance, std::int32_t{1}))); });
+  pula([&] { PoeMaskText(c, Como<std::u16string>(PropBag.ReadProperty(kMaskText, std::u16string()))); });
   // Takes back the gbDefUsr of the step before, without a layout.
-  pula([&] { c.mMask = ToInt32(PropBag.ReadProperty(kMask, std::int32_t{gbNenhuma})); });
+  pula([&] { c.mMask = Como<std::int32_t>(PropBag.ReadProperty(kMask, std::int32_t{gbNenhuma})); });
   pula([&] {
     const Variant cor = PropBag.ReadProperty(kBackColor, ComoVariant(c.Combo1->BackColor()));
-    PoeBackColor(c, static_cast<Color>(ToInt32(cor)));
+    PoeBackColor(c, static_cast<Color>(Como<std::int32_t>(cor)));
   });
   pula([&] {
     const auto& caixas = c.mAppearance == 1 ? c.txt_entrada3D : c.txt_entrada;
-    PoeEnabled(c, ToBoolean(PropBag.ReadProperty(kEnabled, caixas[0]->Enabled())));
+    PoeEnabled(c, Como<bool>(PropBag.ReadProperty(kEnabled, caixas[0]->Enabled())));
   });
-  pula([&] { c.mTrataEnterComoTab = ToBoolean(PropBag.ReadProperty(kTrataEnterComoTab, true)); });
+  pula([&] { c.mTrataEnterComoTab = Como<bool>(PropBag.ReadProperty(kTrataEnterComoTab, true)); });
 }
 
 void UserControl_WriteProperties(const Campo& c, PropertyBag& PropBag) {

@@ -44,6 +44,7 @@ class ComboWidget final : public InputWidget<ComboBox, EditLine> {
   std::int32_t FindBeginning(std::u16string_view text) { return list_.FindBeginning(text); }
   void DropDown(bool open) { dropped_down_ = open; }
   void TrimList() { list_.Trim(); }
+  WindowHandle Window() const { return window_; }
 
   // What a screen shows.
   const ComboList& Entries() const { return list_; }

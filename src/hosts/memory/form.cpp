@@ -45,13 +45,18 @@ void Form::SetFocus(Focusable& receiver) {
   if (focused_ == &receiver && receiver.CanTakeFocus()) return;
   if (!receiver.CanTakeFocus()) throw Erro(kInvalidProcedureCall);
   const std::uint64_t move = ++moves_;
-  Focusable* const former = focused_;
+  // What has never been told that it has the focus is not told that it loses it: two fields that both refuse
+  // to be left would else throw the focus at each other without end.
+  Focusable* const former = entered_ ? focused_ : nullptr;
   if (former != nullptr) former->LostFocus();
   if (move != moves_ || !receiver.CanTakeFocus()) return;
   focused_ = &receiver;
+  entered_ = false;
   if (environment_.recorder != nullptr) environment_.recorder->Focus(receiver);
   if (former != nullptr && &former->Owner() != &receiver.Owner()) former->Owner().ExitFocus();
-  if (move == moves_) receiver.GotFocus();
+  if (move != moves_) return;
+  entered_ = true;
+  receiver.GotFocus();
 }
 
 void Form::Tab(bool backwards) {

@@ -83,6 +83,7 @@ class Form {
   Windows windows_;
   std::vector<std::unique_ptr<Control>> controls_;
   Focusable* focused_ = nullptr;
+  bool entered_ = false;  // GotFocus of what has the focus has been raised
   std::uint64_t moves_ = 0;  // counts moves of the focus, to notice one that happened inside a handler
   bool running_ = false;
 };

@@ -1,0 +1,48 @@
+#include "hosts/memory/form.h"
+
+#include <gtest/gtest.h>
+
+#include "hosts/memory/field.h"
+#include "hosts/memory/plain_box.h"
+
+namespace gabarito::memory {
+namespace {
+
+TEST(Form, TwoFieldsThatRefuseToBeLeftDoNotThrowTheFocusAtEachOther) {
+  Form form;
+  Field& first = form.AddField("first");
+  Field& second = form.AddField("second");
+  for (Field* field : {&first, &second}) {
+    field->Create();
+    (*field)->Mask(gbCPF);
+    (*field)->Text(u"111.444.777-36");
+  }
+  form.SetFocus(*first.Surface());
+  form.Tab(false);
+  EXPECT_EQ(form.Focused(), &first.Parts().txt_entrada3D[0]);
+}
+
+TEST(Form, TabGoesRoundThroughWhatCanTakeTheFocus) {
+  Form form;
+  PlainBox& before = form.AddBox("before");
+  Field& field = form.AddField("field");
+  form.SetFocus(before);
+  form.Tab(false);
+  EXPECT_EQ(form.Focused(), &before) << "there is no field yet";
+  field.Create();
+  field->Mask(gbHora);
+  std::string visited;
+  for (int i = 0; i < 3; ++i) {
+    form.Tab(false);
+    visited.append(form.Focused()->Name()) += ' ';
+  }
+  form.Tab(true);
+  visited.append(form.Focused()->Name());
+  EXPECT_EQ(visited, "txt_entrada3D(0) txt_entrada3D(1) before txt_entrada3D(1)");
+  field.End();
+  EXPECT_EQ(form.Focused(), nullptr);
+  form.Type(u"nobody is there");
+}
+
+}  // namespace
+}  // namespace gabarito::memory

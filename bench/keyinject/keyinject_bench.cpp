@@ -54,10 +54,10 @@ void Send(benchmark::State& state, std::u16string_view text) {
 
 const std::u16string kLetters(300, u'a');
 
-BENCHMARK_CAPTURE(Floor, Tab, u"\t");
+BENCHMARK_CAPTURE(Floor, Tab, u"\t")->Name("Send/Tab_floor");
 BENCHMARK_CAPTURE(Send, Tab, u"{TAB}");
 BENCHMARK_CAPTURE(Send, ShiftTab, u"+{TAB}");
-BENCHMARK_CAPTURE(Floor, Letters300, kLetters);
+BENCHMARK_CAPTURE(Floor, Letters300, kLetters)->Name("Send/Letters300_floor");
 BENCHMARK_CAPTURE(Send, Letters300, kLetters);
 
 }  // namespace

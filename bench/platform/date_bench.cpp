@@ -34,7 +34,7 @@ void BM_DateFloor(benchmark::State& state) {
     benchmark::DoNotOptimize(date);
   }
 }
-BENCHMARK(BM_DateFloor);
+BENCHMARK(BM_DateFloor)->Name("ReadForm/DayMonthYear_floor");
 
 void ReadForm(benchmark::State& state, std::u16string_view text) {
   const Regional regional;

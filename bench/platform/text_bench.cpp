@@ -86,25 +86,25 @@ bool IsBrazilianNumber(View text) {
   return IsNumeric(text, kBrazil);
 }
 
-BENCHMARK_CAPTURE(Run, ValInteger_Floor, ValFloor, View(u"123"));
+BENCHMARK_CAPTURE(Run, ValInteger_floor, ValFloor, View(u"123"));
 BENCHMARK_CAPTURE(Run, ValInteger, Val, View(u"123"));
-BENCHMARK_CAPTURE(Run, ValReal_Floor, RealFloor, View(u"1234567.891"));
+BENCHMARK_CAPTURE(Run, ValReal_floor, RealFloor, View(u"1234567.891"));
 BENCHMARK_CAPTURE(Run, ValReal, Val, View(u"1234567.891"));
-BENCHMARK_CAPTURE(Run, IsNumeric_Floor, AllDigitsFloor, View(u"4111111111111111"));
+BENCHMARK_CAPTURE(Run, IsNumeric_floor, AllDigitsFloor, View(u"4111111111111111"));
 BENCHMARK_CAPTURE(Run, IsNumeric, IsBrazilianNumber, View(u"4111111111111111"));
-BENCHMARK_CAPTURE(Run, NumberToTextInteger_Floor, ToTextFloor, 250.0);
+BENCHMARK_CAPTURE(Run, NumberToTextInteger_floor, ToTextFloor, 250.0);
 BENCHMARK_CAPTURE(
     Run, NumberToTextInteger, [](double value) { return NumberToText(value); }, 250.0);
-BENCHMARK_CAPTURE(Run, NumberToTextReal_Floor, ToTextFloor, 1234.56);
+BENCHMARK_CAPTURE(Run, NumberToTextReal_floor, ToTextFloor, 1234.56);
 BENCHMARK_CAPTURE(
     Run, NumberToTextReal, [](double value) { return NumberToText(value); }, 1234.56);
-BENCHMARK_CAPTURE(Run, DecimalProduct_Floor, HundredfoldFloor, 1.005);
+BENCHMARK_CAPTURE(Run, DecimalProduct_floor, HundredfoldFloor, 1.005);
 BENCHMARK_CAPTURE(
     Run, DecimalProduct, [](double value) { return DecimalProduct(value, 100); }, 1.005);
-BENCHMARK_CAPTURE(Run, Like_Floor, AllDigitsFloor, View(u"345678"));
+BENCHMARK_CAPTURE(Run, Like_floor, AllDigitsFloor, View(u"345678"));
 BENCHMARK_CAPTURE(
     Run, Like, [](View text) { return Like(text, u"######"); }, View(u"345678"));
-BENCHMARK_CAPTURE(Run, UCase_Floor, UCaseFloor, View(u"rua das laranjeiras, 1234"));
+BENCHMARK_CAPTURE(Run, UCase_floor, UCaseFloor, View(u"rua das laranjeiras, 1234"));
 BENCHMARK_CAPTURE(
     Run, UCase, [](View text) { return UCase(text); }, View(u"rua das laranjeiras, 1234"));
 

@@ -37,7 +37,7 @@ FieldParts::FieldParts(Field& field, Form& form, Control& owner)
                     .Kernel32 = &form.System().kernel,
                     .Regional = &form.System().kernel.regional}) {}
 
-std::vector<Focusable*> FieldParts::InTabOrder() {
+std::array<Focusable*, 8> FieldParts::InTabOrder() {
   return {&txt_entrada[0], &txt_entrada[1],   &txt_entrada[2],   &MaskEdBox1,
           &Combo1,         &txt_entrada3D[0], &txt_entrada3D[1], &txt_entrada3D[2]};
 }

@@ -2,6 +2,7 @@
 #ifndef HOSTS_MEMORY_FIELD_H
 #define HOSTS_MEMORY_FIELD_H
 
+#include <array>
 #include <memory>
 #include <string>
 
@@ -28,7 +29,7 @@ struct FieldParts {
   gabarito::Gabarito gabarito;
 
   // The eight children that take input, in the order of TabIndex.
-  std::vector<Focusable*> InTabOrder();
+  std::array<Focusable*, 8> InTabOrder();
 };
 
 // A control of the form that holds at most one field at a time. There is none before Create, Load or Place;

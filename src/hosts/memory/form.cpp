@@ -60,22 +60,30 @@ void Form::SetFocus(Focusable& receiver) {
 }
 
 void Form::Tab(bool backwards) {
-  std::vector<Focusable*> stops;
-  for (const auto& control : controls_) control->TabStops(stops);
-  if (backwards) std::reverse(stops.begin(), stops.end());
-  auto here = std::find(stops.begin(), stops.end(), focused_);
-  if (here == stops.end() && focused_ != nullptr) {
+  if (Focusable* const stop = NextStop(backwards)) SetFocus(*stop);
+}
+
+Focusable* Form::NextStop(bool backwards) {
+  stops_.clear();
+  for (const auto& control : controls_) control->TabStops(stops_);
+  const auto count = static_cast<std::ptrdiff_t>(stops_.size());
+  const auto here = std::find(stops_.begin(), stops_.end(), focused_);
+  std::ptrdiff_t next;  // where the search begins
+  if (here != stops_.end()) {
+    next = here - stops_.begin() + (backwards ? -1 : 1);
+  } else if (focused_ == nullptr) {
+    next = backwards ? -1 : 0;
+  } else {
     // The surface of a field stands in front of its own children.
-    here = std::find_if(stops.begin(), stops.end(),
-                        [&](Focusable* stop) { return &stop->Owner() == &focused_->Owner(); });
-    if (here != stops.end() && !backwards) std::rotate(stops.begin(), here, stops.end()), here = stops.end();
+    const auto first = std::find_if(stops_.begin(), stops_.end(),
+                                    [&](Focusable* stop) { return &stop->Owner() == &focused_->Owner(); });
+    next = first - stops_.begin() + (backwards ? -1 : 0);
   }
-  if (here != stops.end()) std::rotate(stops.begin(), here + 1, stops.end());
-  for (Focusable* stop : stops) {
-    if (stop == focused_ || !stop->CanTakeFocus()) continue;
-    SetFocus(*stop);
-    return;
+  for (std::ptrdiff_t tried = 0; tried < count; ++tried, next += backwards ? -1 : 1) {
+    Focusable* const stop = stops_[static_cast<std::size_t>((next + count) % count)];
+    if (stop->CanTakeFocus()) return stop;
   }
+  return nullptr;
 }
 
 void Form::Settle() {
@@ -119,8 +127,9 @@ void Form::Deliver(const KeyEvent& event) {
   }
   if (!receiver->KeyDown(vk, event.shift)) return;
   const Keyboard& keyboard = environment_.keyboard;
-  const char16_t character =
-      event.unicode != 0 ? event.unicode : keyboard.Layout().CharacterOf(vk, event.shift, keyboard.CapsLock());
+  const char16_t character = event.unicode != 0
+                                 ? event.unicode
+                                 : keyboard.Layout().CharacterOf(vk, event.shift, keyboard.CapsLock());
   // The character goes to the entry that saw the key go down, if that is still on show.
   if (character != 0 && receiver->CanTakeFocus()) receiver->Character(character);
 }

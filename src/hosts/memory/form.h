@@ -78,14 +78,16 @@ class Form {
 
  private:
   void Deliver(const KeyEvent& event);
+  Focusable* NextStop(bool backwards);
 
   Environment environment_;
   Windows windows_;
   std::vector<std::unique_ptr<Control>> controls_;
   Focusable* focused_ = nullptr;
-  bool entered_ = false;  // GotFocus of what has the focus has been raised
+  bool entered_ = false;     // GotFocus of what has the focus has been raised
   std::uint64_t moves_ = 0;  // counts moves of the focus, to notice one that happened inside a handler
   bool running_ = false;
+  std::vector<Focusable*> stops_;  // room for the tab stops, so that a Tab allocates nothing
 };
 
 }  // namespace gabarito::memory

@@ -6,13 +6,16 @@
 #include <csignal>
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <iostream>
+#include <memory>
 #include <string>
 #include <system_error>
 #include <utility>
 #include <vector>
 
 #include "cli/commands.h"
+#include "cli/form/form_command.h"
 #include "cli/properties.h"
 #include "cli/script/script.h"
 #include "cli/utf8.h"
@@ -84,50 +87,76 @@ int RunScriptFile(const std::string& file) {
   return RunScript(in, std::cout, std::cerr);
 }
 
+// What the command that was given does, once the whole line is understood.
+using Action = std::function<int()>;
+
+void AddMasks(CLI::App& program, Action& action) {
+  CLI::App& command = *program.add_subcommand("masks", "List the kinds of field");
+  auto json = std::make_shared<bool>(false);
+  command.add_flag("--json", *json, "As JSON, with the members of the public class");
+  command.callback([json, &action] {
+    action = [json] { return RunMasks(*json ? ListForm::kJson : ListForm::kText, std::cout); };
+  });
+}
+
+void AddField(CLI::App& program, Action& action) {
+  CLI::App& command =
+      *program.add_subcommand("field", "Put one value through a field and print what it gives");
+  auto options = std::make_shared<FieldCommandOptions>();
+  AddFieldOptions(command, options->field);
+  command.add_option("-t,--text", options->text, "Value that is loaded")->type_name("VALUE");
+  command
+      .add_option("-k,--keys", options->keys,
+                  "Keys played into the field after that, all at once: 05{TAB}03{TAB}2024")
+      ->type_name("KEYSTRING");
+  command.callback(
+      [options, &action] { action = [options] { return RunField(*options, std::cout, std::cerr); }; });
+}
+
+void AddBatch(CLI::App& program, Action& action) {
+  CLI::App& command = *program.add_subcommand(
+      "batch", "Put each line of a file through a field: input, value and message, parted by TAB");
+  auto options = std::make_shared<BatchOptions>();
+  AddFieldOptions(command, options->field);
+  command.add_option("FILE", options->file, "UTF-8, one value a line; standard input without it");
+  command.callback(
+      [options, &action] { action = [options] { return RunBatch(*options, STDIN_FILENO, STDOUT_FILENO); }; });
+}
+
+void AddScript(CLI::App& program, Action& action) {
+  CLI::App& command = *program.add_subcommand("script", "Play host and user actions and write what happens");
+  auto file = std::make_shared<std::string>();
+  command.add_option("FILE", *file, "Actions, one a line; standard input without it");
+  command.callback([file, &action] { action = [file] { return RunScriptFile(*file); }; });
+}
+
+void AddForm(CLI::App& program, Action& action) {
+  CLI::App& command = *program.add_subcommand("form", "Fill in a form in the terminal");
+  auto file = std::make_shared<std::string>();
+  command.add_option("--fields", *file, "List of fields as JSON; a field of every kind without it")
+      ->type_name("FILE");
+  command.footer(kFormHelp);
+  command.callback([file, &action] { action = [file] { return RunForm(*file); }; });
+}
+
 int Run(int argc, char** argv) {
   CLI::App program("Gabarito: one input field for Brazilian forms that is 23 kinds of field.", "gabarito");
   program.set_version_flag("--version", Version(), "Print the version and exit");
   program.require_subcommand(1);
   program.footer("Exit status: 0 nothing was refused, 1 the field refused something, 2 a usage error.");
+  Action action;
+  AddMasks(program, action);
+  AddField(program, action);
+  AddBatch(program, action);
+  AddScript(program, action);
+  AddForm(program, action);
 
-  CLI::App& masks = *program.add_subcommand("masks", "List the kinds of field");
-  bool json = false;
-  masks.add_flag("--json", json, "As JSON, with the members of the public class");
-
-  CLI::App& field = *program.add_subcommand("field", "Put one value through a field and print what it gives");
-  FieldCommandOptions field_options;
-  AddFieldOptions(field, field_options.field);
-  field.add_option("-t,--text", field_options.text, "Value that is loaded")->type_name("VALUE");
-  field
-      .add_option("-k,--keys", field_options.keys,
-                  "Keys that are typed into the field after that, such as 1203{TAB}")
-      ->type_name("KEYSTRING");
-
-  CLI::App& batch = *program.add_subcommand("batch", "Put each line of a file through a field");
-  BatchOptions batch_options;
-  AddFieldOptions(batch, batch_options.field);
-  batch.add_option("FILE", batch_options.file, "UTF-8, one value a line; standard input without it");
-
-  CLI::App& script = *program.add_subcommand("script", "Play host and user actions and write what happens");
-  std::string script_file;
-  script.add_option("FILE", script_file, "Actions, one a line; standard input without it");
-
+  int status = kNothingRefused;
   try {
     program.parse(Arguments(argc, argv));
+    status = action();
   } catch (const CLI::Success& asked) {  // --help and --version
     program.exit(asked);
-    Finish(std::cout);
-    return kNothingRefused;
-  }
-  int status = kFailed;
-  if (masks.parsed()) {
-    status = RunMasks(json ? ListForm::kJson : ListForm::kText, std::cout);
-  } else if (field.parsed()) {
-    status = RunField(field_options, std::cout, std::cerr);
-  } else if (batch.parsed()) {
-    status = RunBatch(batch_options, STDIN_FILENO, STDOUT_FILENO);
-  } else if (script.parsed()) {
-    status = RunScriptFile(script_file);
   }
   Finish(std::cout);
   return status;

@@ -1,0 +1,165 @@
+#include "cli/form/field_list.h"
+
+#include <algorithm>
+#include <fstream>
+#include <limits>
+#include <sstream>
+
+#include "cli/utf8.h"
+#include "gabarito/state/mascaras.h"
+
+namespace gabarito::cli {
+namespace {
+
+struct BuiltIn {
+  const char* name;
+  std::u16string_view label;
+  EMascaras mask;
+  const char* set;  // JSON
+};
+
+constexpr const char* kFlat = R"({"Appearance": 0})";
+
+constexpr BuiltIn kBuiltIn[] = {
+    {"nome", u"Nome", gbNenhuma, "{}"},
+    {"profissao", u"Profissão", gbLetra, "{}"},
+    {"codigo", u"Código do cliente", gbAlfanumerico, "{}"},
+    {"cpf", u"CPF", gbCPF, "{}"},
+    {"cnpj", u"CNPJ", gbCNPJ, "{}"},
+    {"nascimento", u"Data de nascimento", gbData, R"({"PreencherDatasInvalidasComDataDeHoje": false})"},
+    {"preenchimento", u"Preenchido em", gbDataAtual, "{}"},
+    {"validade", u"Validade (mês/ano)", gbMesAno, "{}"},
+    {"horario", u"Horário de contato", gbHora, kFlat},
+    {"telefone", u"Telefone", gbTelefone, kFlat},
+    {"email", u"E-mail", gbEnderecoEmail, "{}"},
+    {"cep", u"CEP", gbCEP, kFlat},
+    // Flat, so that Tab visits the city before its state.
+    {"cidade", u"Cidade e UF", gbCidadeEstado, kFlat},
+    {"naturalidade", u"UF de nascimento", gbEstado, "{}"},
+    {"municipio", u"Município", gbCidadeEstadoPopulado, "{}"},
+    {"filial", u"Filial", gbListaNoCombo,
+     R"({"ComboItens": ["Belo Horizonte", "Curitiba", "Recife", "Rio de Janeiro", "Salvador", "São Paulo"]})"},
+    {"dependentes", u"Dependentes", gbInteiro, "{}"},
+    {"altura", u"Altura (m)", gbReal, "{}"},
+    {"renda", u"Renda mensal (R$)", gbMoeda, "{}"},
+    {"cartao", u"Cartão de crédito", gbCartaoCredito, "{}"},
+    {"ramais", u"Faixa de ramais", gbIntervaloNumerico, "{}"},
+    {"versao", u"Versão do contrato", gbVersao, "{}"},
+    {"aniversario", u"Aniversário (dia/mês)", gbDefUsr, R"({"MaskText": "##/##"})"},
+};
+
+std::string Quoted(std::string_view text) {
+  return Json(text).dump(-1, ' ', false, Json::error_handler_t::replace);
+}
+
+std::string TextOf(const Json& value, std::string_view key) {
+  if (!value.is_string()) throw UsageError(std::string(key) + " takes a text");
+  return value.get<std::string>();
+}
+
+std::int32_t MaskOf(const Json& value) {
+  if (value.is_string()) return MaskFromText(value.get_ref<const std::string&>());
+  using Limits = std::numeric_limits<std::int32_t>;
+  if (!value.is_number_integer() || value < Limits::min() || value > Limits::max()) {
+    throw UsageError("mask takes a name or a number of 32 bits");
+  }
+  return value.get<std::int32_t>();
+}
+
+void ReadMember(FieldSpec& field, const std::string& key, const Json& value) {
+  if (key == "name") {
+    field.name = TextOf(value, key);
+  } else if (key == "label") {
+    field.label = ToUtf16(TextOf(value, key)).value();  // the parser lets valid UTF-8 through only
+  } else if (key == "mask") {
+    field.mask = MaskOf(value);
+  } else if (key == "set") {
+    if (!value.is_object()) throw UsageError("set takes an object of properties");
+    field.set = value;
+  } else {
+    throw UsageError("unknown key " + Quoted(key) + "; a field has name, label, mask and set");
+  }
+}
+
+FieldSpec ReadField(const Json& value, std::size_t position) {
+  FieldSpec field;
+  field.where = "field " + std::to_string(position);
+  if (value.is_object()) {
+    for (const char* key : {"label", "name"}) {
+      if (value.contains(key) && value[key].is_string()) {
+        field.where =
+            "field " + std::to_string(position) + " (" + Quoted(value[key].get<std::string>()) + ")";
+      }
+    }
+  }
+  try {
+    if (!value.is_object()) throw UsageError("a field is an object");
+    if (!value.contains("mask")) throw UsageError("mask is missing");
+    for (const auto& [key, member] : value.items()) ReadMember(field, key, member);
+  } catch (const UsageError& error) {
+    throw UsageError(field.where + ": " + error.what());
+  }
+  if (field.name.empty())
+    field.name = field.label.empty() ? "field_" + std::to_string(position) : ToUtf8(field.label);
+  if (field.label.empty()) field.label = ToUtf16(field.name).value();
+  return field;
+}
+
+// "line 3, column 7" of a place in a text, both counted from 1.
+std::string PlaceOf(std::string_view text, std::size_t offset) {
+  const std::string_view before = text.substr(0, offset);
+  const auto line = 1 + std::count(before.begin(), before.end(), '\n');
+  const std::size_t start = before.rfind('\n') + 1;  // 0 on the first line
+  return "line " + std::to_string(line) + ", column " + std::to_string(before.size() - start + 1);
+}
+
+Json Parse(std::string_view text) {
+  try {
+    return Json::parse(text);
+  } catch (const Json::parse_error& error) {
+    throw UsageError("not valid JSON at " + PlaceOf(text, error.byte == 0 ? 0 : error.byte - 1));
+  }
+}
+
+}  // namespace
+
+std::vector<FieldSpec> BuiltInFields() {
+  std::vector<FieldSpec> fields;
+  for (const BuiltIn& row : kBuiltIn) {
+    fields.push_back({.name = row.name,
+                      .label = std::u16string(row.label),
+                      .mask = row.mask,
+                      .set = Json::parse(row.set),
+                      .where = row.name});
+  }
+  return fields;
+}
+
+std::vector<FieldSpec> ReadFieldList(std::string_view text) {
+  const Json json = Parse(text);
+  const Json* list = &json;
+  if (json.is_object()) {
+    for (const auto& [key, value] : json.items()) {
+      if (key != "fields") throw UsageError("unknown key " + Quoted(key) + "; the list stands under fields");
+      list = &value;
+    }
+  }
+  if (!list->is_array()) throw UsageError("takes an array of fields, or an object with fields");
+  if (list->empty()) throw UsageError("there is no field in the list");
+  std::vector<FieldSpec> fields;
+  for (const Json& value : *list) fields.push_back(ReadField(value, fields.size() + 1));
+  return fields;
+}
+
+std::vector<FieldSpec> ReadFieldListFile(const std::string& file) {
+  std::ifstream in(file, std::ios::binary);
+  std::ostringstream text;
+  if (!in || !(text << in.rdbuf())) throw UsageError(file + ": cannot be read, or is empty");
+  try {
+    return ReadFieldList(text.str());
+  } catch (const UsageError& error) {
+    throw UsageError(file + ": " + error.what());
+  }
+}
+
+}  // namespace gabarito::cli

@@ -1,0 +1,38 @@
+// Which fields the interactive form shows: its own, or those of a JSON text.
+//
+//   {"fields": [{"name": "cpf", "mask": "gbCPF", "label": "CPF", "set": {"Appearance": 0}}, ...]}
+//
+// or the array alone. `mask` is a name or a number; `label` is the name if it is left out, and `name` the
+// label; `set` holds public properties with their values.
+#ifndef CLI_FORM_FIELD_LIST_H
+#define CLI_FORM_FIELD_LIST_H
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "cli/properties.h"
+
+namespace gabarito::cli {
+
+struct FieldSpec {
+  std::string name;  // the key of its value; UTF-8
+  std::u16string label;
+  std::int32_t mask = 0;
+  Json set = Json::object();
+  std::string where;  // for messages: field 2 ("cpf")
+};
+
+// A field of each kind, labelled in Portuguese.
+std::vector<FieldSpec> BuiltInFields();
+
+// UsageError in one line, with the place, on a text that is no such list: not JSON, an unknown key or mask, a
+// value of the wrong type, no field at all. Properties are judged when they are set.
+std::vector<FieldSpec> ReadFieldList(std::string_view json);
+
+// The same from a file; messages begin with its name.
+std::vector<FieldSpec> ReadFieldListFile(const std::string& file);
+
+}  // namespace gabarito::cli
+
+#endif  // CLI_FORM_FIELD_LIST_H

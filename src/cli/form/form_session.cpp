@@ -1,0 +1,123 @@
+#include "cli/form/form_session.h"
+
+#include <ranges>
+
+#include "cli/form/message_box.h"
+#include "cli/local_clock.h"
+#include "gabarito/platform/erro.h"
+#include "gabarito/platform/user32.h"
+
+namespace gabarito::cli {
+namespace {
+
+// Leaves the form out of a message box. It passes through the handlers of the field, which skip an Erro only:
+// two fields that each refuse the other's focus ask without end, and this is the way out.
+struct LeftFromMessageBox {};
+
+bool ClickTarget(const Screen& screen, Point at) {
+  for (const Target& target : screen.targets | std::views::reverse) {
+    if (!target.Holds(at)) continue;
+    target.click(at.x - target.x);
+    return true;
+  }
+  return false;
+}
+
+}  // namespace
+
+FormSession::FormSession(FormModel& model, Display& display)
+    : model_(model), display_(display), view_(model, [this] { AskToLeave(); }) {
+  memory::ScriptedDialogs& dialogs = model_.Form().System().dialogs;
+  dialogs.onMsgBox = [this](std::u16string_view text, std::int32_t flags,
+                            std::optional<std::u16string_view> title) { return Ask(text, flags, title); };
+  dialogs.onBeep = [this] { display_.Beep(); };
+  model_.Leave().onClick = [this] { left_ = true; };
+}
+
+FormSession::~FormSession() {
+  memory::ScriptedDialogs& dialogs = model_.Form().System().dialogs;
+  dialogs.onMsgBox = nullptr;
+  dialogs.onBeep = nullptr;
+  model_.Leave().onClick = nullptr;
+}
+
+void FormSession::Run() {
+  try {
+    model_.Form().Tab(false);
+    while (!left_) {
+      display_.Show(view_.Draw(display_.Width(), display_.Height()));
+      Handle(display_.Next());
+    }
+  } catch (const LeftFromMessageBox&) {
+  }
+}
+
+void FormSession::Handle(const Input& input) {
+  model_.Form().System().clock.Set(LocalNow());
+  try {
+    Play(input);
+  } catch (const Erro& erro) {
+    Ask(erro.Description(), kMsgCritical, u"Erro");
+  }
+}
+
+void FormSession::Play(const Input& input) {
+  switch (input.kind) {
+    case Input::Kind::kKey:
+      return model_.Form().Press(input.vk, input.shift);
+    case Input::Kind::kCharacter:
+      return model_.Form().Type({&input.character, 1});
+    case Input::Kind::kClick:
+      return Click(input.at);
+    case Input::Kind::kLeave:
+      return AskToLeave();
+    case Input::Kind::kRedraw:
+      return;
+  }
+}
+
+void FormSession::Click(Point at) {
+  // What lies under the pointer is what was shown last; nothing has changed since.
+  if (ClickTarget(view_.Draw(display_.Width(), display_.Height()), at)) return;
+  if (memory::ComboWidget* combo = model_.FocusedCombo()) combo->DropDown(false);
+}
+
+// The focus passes to Sair, so that the field that is left is judged as ever. Whoever saw a message stays, to
+// look at what it has done to the field.
+void FormSession::AskToLeave() {
+  const int before = boxes_;
+  memory::Form& form = model_.Form();
+  form.SetFocus(model_.Leave());
+  form.Run();
+  left_ = form.Focused() == &model_.Leave() && boxes_ == before;
+}
+
+std::int32_t FormSession::Ask(std::u16string_view text, std::int32_t flags,
+                              std::optional<std::u16string_view> title) {
+  ++boxes_;
+  MessageBox box(text, flags, title);
+  while (!box.Answer()) {
+    Screen screen = view_.Draw(display_.Width(), display_.Height());
+    box.Draw(screen);
+    display_.Show(screen);
+    const Input input = display_.Next();
+    switch (input.kind) {
+      case Input::Kind::kKey:
+        box.Press(input.vk);
+        break;
+      case Input::Kind::kCharacter:
+        box.Type(input.character);
+        break;
+      case Input::Kind::kClick:
+        ClickTarget(screen, input.at);
+        break;
+      case Input::Kind::kLeave:
+        throw LeftFromMessageBox();
+      case Input::Kind::kRedraw:
+        break;
+    }
+  }
+  return *box.Answer();
+}
+
+}  // namespace gabarito::cli

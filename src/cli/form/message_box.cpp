@@ -1,0 +1,116 @@
+#include "cli/form/message_box.h"
+
+#include <algorithm>
+
+#include "gabarito/platform/dialogs.h"
+#include "gabarito/platform/user32.h"
+
+namespace gabarito::cli {
+namespace {
+
+constexpr std::int32_t kYesNo = 4, kSecondButton = 256;
+constexpr int kMargin = 2;  // between frame and text
+constexpr int kWidest = 56;
+constexpr std::int16_t kVkLeft = 37, kVkUp = 38, kVkRight = 39, kVkDown = 40;
+
+}  // namespace
+
+MessageBox::MessageBox(std::u16string_view text, std::int32_t flags, std::optional<std::u16string_view> title)
+    : title_(ToCells(title.value_or(u"Gabarito"))), text_(ToCells(text)) {
+  if ((flags & kYesNo) != 0) {
+    buttons_ = {{U"[ Sim ]", kAnswerYes}, {U"[ Não ]", kAnswerNo}};
+    chosen_ = (flags & kSecondButton) != 0 ? 1 : 0;
+  } else {
+    buttons_ = {{U"[ OK ]", kAnswerOk}};
+  }
+}
+
+void MessageBox::Press(std::int16_t vk) {
+  switch (vk) {
+    case kVkReturn:
+      answer_ = buttons_[chosen_].answer;
+      break;
+    case kVkEscape:
+      answer_ = buttons_.back().answer;
+      break;
+    case kVkTab:
+    case kVkLeft:
+    case kVkUp:
+    case kVkRight:
+    case kVkDown:
+      chosen_ = (chosen_ + 1) % buttons_.size();  // with two buttons both ways are one
+      break;
+    default:
+      break;
+  }
+}
+
+void MessageBox::Type(char16_t character) {
+  if (character == u' ' || character == u'\r') return Press(kVkReturn);
+  constexpr std::size_t kFirstLetter = 2;  // behind "[ "
+  for (const Button& button : buttons_) {
+    const char32_t capital = button.caption[kFirstLetter];
+    if (character == capital || character == capital + (U'a' - U'A')) answer_ = button.answer;
+  }
+}
+
+void MessageBox::Draw(Screen& screen) {
+  Grid& grid = screen.grid;
+  const int widest = std::min(kWidest, grid.Width() - 2 * kMargin - 2);
+  const std::vector<std::u32string> lines = Wrapped(text_, widest);
+  std::size_t inner = std::min(title_.size() + 2, static_cast<std::size_t>(std::max(widest, 1)));
+  std::size_t captions = 0;
+  for (const Button& button : buttons_) captions += button.caption.size() + 2;
+  for (const std::u32string& line : lines) inner = std::max(inner, line.size());
+  const int width = static_cast<int>(std::max(inner, captions)) + 2 * kMargin + 2;
+  const int height = static_cast<int>(lines.size()) + 5;  // frame, a row around the text, the buttons
+  const int x = std::max((grid.Width() - width) / 2, 0);
+  const int y = std::min((grid.Height() - height) / 2, grid.Height() - height);
+
+  const Style style{kWindowBackground}, frame{kWindowBackground, kStrong};
+  const std::u32string bar(static_cast<std::size_t>(width - 2), U'─');
+  for (int row = 0; row < height; ++row) {
+    grid.Fill(x, y + row, width, style);
+    grid.Put(x, y + row, U'│', frame);
+    grid.Put(x + width - 1, y + row, U'│', frame);
+  }
+  grid.Put(x, y, U"┌" + bar + U"┐", frame);
+  grid.Put(x + 2, y, U" " + Shortened(title_, width - 6) + U" ", frame);
+  grid.Put(x, y + height - 1, U"└" + bar + U"┘", frame);
+  int row = y + 2;
+  for (const std::u32string& line : lines) grid.Put(x + 1 + kMargin, row++, line, style);
+
+  screen.targets.clear();
+  int column = x + (width - static_cast<int>(captions)) / 2 + 1;
+  for (std::size_t i = 0; i < buttons_.size(); ++i) {
+    const std::u32string_view caption = buttons_[i].caption;
+    const bool chosen = i == chosen_;
+    grid.Put(column, y + height - 2, caption,
+             {kWindowBackground, chosen ? Marks(kActive | kSelected) : kPlain});
+    if (chosen) grid.caret = {std::clamp(column + 2, 0, grid.Width() - 1), std::max(y + height - 2, 0)};
+    screen.targets.push_back({column, y + height - 2, static_cast<int>(caption.size()),
+                              [this, i](int) { answer_ = buttons_[i].answer; }});
+    column += static_cast<int>(caption.size()) + 2;
+  }
+}
+
+std::vector<std::u32string> Wrapped(std::u32string_view text, int width) {
+  const auto most = static_cast<std::size_t>(std::max(width, 1));
+  std::vector<std::u32string> lines;
+  while (true) {
+    const std::size_t line_break = text.find(U'\n');
+    std::u32string_view line = text.substr(0, line_break);
+    if (!line.empty() && line.back() == U'\r') line.remove_suffix(1);
+    while (line.size() > most) {
+      const std::size_t blank = line.rfind(U' ', most);
+      const std::size_t cut = blank == line.npos || blank == 0 ? most : blank;
+      lines.emplace_back(line.substr(0, cut));
+      line.remove_prefix(cut == blank ? cut + 1 : cut);
+    }
+    lines.emplace_back(line);
+    if (line_break == text.npos) return lines;
+    text.remove_prefix(line_break + 1);
+  }
+}
+
+}  // namespace gabarito::cli

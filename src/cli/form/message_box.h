@@ -1,0 +1,51 @@
+// A message box as a modal window over the form.
+#ifndef CLI_FORM_MESSAGE_BOX_H
+#define CLI_FORM_MESSAGE_BOX_H
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "cli/form/form_view.h"
+
+namespace gabarito::cli {
+
+class MessageBox {
+ public:
+  // `flags` as dialogs.h tells them. Without a title "Gabarito".
+  MessageBox(std::u16string_view text, std::int32_t flags, std::optional<std::u16string_view> title);
+
+  // Centred, over what `screen` shows; its targets take the place of those that are there. A window too
+  // small for it shows its end, with the buttons.
+  void Draw(Screen& screen);
+
+  // A key: Tab and the arrows walk the buttons, Enter and the blank press one, a button's first letter
+  // presses it, Escape is OK or No.
+  void Press(std::int16_t vk);
+  void Type(char16_t character);
+
+  // The button that was pressed.
+  const std::optional<std::int32_t>& Answer() const { return answer_; }
+
+ private:
+  struct Button {
+    std::u32string_view caption;
+    std::int32_t answer;
+  };
+
+  std::u32string title_;
+  std::u32string text_;
+  std::vector<Button> buttons_;
+  std::size_t chosen_ = 0;
+  std::optional<std::int32_t> answer_;
+};
+
+// `text` in lines of at most `width` cells, broken at blanks where that is possible and at line breaks
+// always.
+std::vector<std::u32string> Wrapped(std::u32string_view text, int width);
+
+}  // namespace gabarito::cli
+
+#endif  // CLI_FORM_MESSAGE_BOX_H

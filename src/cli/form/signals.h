@@ -1,0 +1,44 @@
+// Signals as something to wait for beside a key.
+#ifndef CLI_FORM_SIGNALS_H
+#define CLI_FORM_SIGNALS_H
+
+#include <csignal>
+#include <vector>
+
+namespace gabarito::cli {
+
+// While one of these lives, the signals that end, stop or resize the program are held back and come out of
+// Wait alone: nothing is interrupted half-way. A signal that the program was started to ignore stays ignored.
+class Signals {
+ public:
+  Signals();
+  ~Signals();
+  Signals(const Signals&) = delete;
+  Signals& operator=(const Signals&) = delete;
+
+  // What Wait came back for.
+  struct Event {
+    int signal = 0;       // 0: `descriptor` can be read, or `closed`
+    bool closed = false;  // the other end of `descriptor` has gone
+  };
+  Event Wait(int descriptor);
+
+  // Stops the program as SIGTSTP does, and returns when it is continued.
+  void Stop();
+
+  // The handlers of a library that has been set up meanwhile give way to these.
+  void Install();
+
+ private:
+  struct Former {
+    int signal;
+    struct sigaction action;
+  };
+
+  std::vector<Former> former_;
+  sigset_t former_mask_;
+};
+
+}  // namespace gabarito::cli
+
+#endif  // CLI_FORM_SIGNALS_H

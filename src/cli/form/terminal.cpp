@@ -1,0 +1,190 @@
+#include "cli/form/terminal.h"
+
+#define NCURSES_WIDECHAR 1
+#define NCURSES_NOMACROS 1
+#include <curses.h>
+#include <fcntl.h>
+#include <langinfo.h>
+#include <sys/ioctl.h>
+#include <term.h>
+#include <unistd.h>
+#include <wchar.h>
+
+#include <clocale>
+#include <cstdlib>
+#include <cstring>
+#include <string>
+
+#include "cli/form/palette.h"
+#include "cli/form/terminal_keys.h"
+#include "cli/properties.h"
+
+namespace gabarito::cli {
+namespace {
+
+// Milliseconds that ncurses waits for the rest of a character or of an escape sequence.
+constexpr int kRestOfKey = 25;
+
+std::string_view Variable(const char* name) {
+  const char* const value = std::getenv(name);
+  return value == nullptr ? std::string_view() : value;
+}
+
+// The program speaks UTF-8, whatever the locale.
+void UseUtf8() {
+  std::setlocale(LC_CTYPE, "");
+  if (std::string_view(nl_langinfo(CODESET)) != "UTF-8") std::setlocale(LC_CTYPE, "C.UTF-8");
+}
+
+std::FILE* OpenScreen() {
+  if (isatty(STDIN_FILENO) == 0) throw UsageError("form: standard input is no terminal");
+  const int descriptor = isatty(STDOUT_FILENO) != 0 ? fcntl(STDOUT_FILENO, F_DUPFD_CLOEXEC, 3)
+                                                    : open("/dev/tty", O_RDWR | O_CLOEXEC);
+  std::FILE* const file = descriptor < 0 ? nullptr : fdopen(descriptor, "w");
+  if (file == nullptr) throw UsageError("form: there is no terminal to draw on");
+  return file;
+}
+
+void CheckTerminalType(int descriptor) {
+  const std::string_view type = Variable("TERM");
+  if (type.empty() || type == "dumb") {
+    throw UsageError(std::string("form: needs a terminal that can place its cursor; TERM is ") +
+                     (type.empty() ? "not set" : "dumb"));
+  }
+  int known = 0;
+  const bool found = setupterm(nullptr, descriptor, &known) == OK;
+  const bool places = found && cursor_address != nullptr;
+  if (found) del_curterm(cur_term);
+  if (!found) throw UsageError("form: the terminal type '" + std::string(type) + "' is not known");
+  if (!places)
+    throw UsageError("form: the terminal type '" + std::string(type) + "' cannot place its cursor");
+}
+
+}  // namespace
+
+Terminal::Terminal() : out_(OpenScreen()) {
+  CheckTerminalType(fileno(out_.get()));
+  UseUtf8();
+  use_env(TRUE);
+  use_tioctl(TRUE);
+  screen_ = newterm(nullptr, out_.get(), stdin);
+  if (screen_ == nullptr) throw UsageError("form: the terminal cannot be set up");
+  signals_.Install();
+  SetUpKeys();
+  SetUpColors();
+}
+
+Terminal::~Terminal() {
+  if (screen_ == nullptr) return;
+  endwin();
+  delscreen(screen_);
+}
+
+void Terminal::SetUpKeys() {
+  raw();
+  noecho();
+  nonl();
+  set_escdelay(kRestOfKey);
+  keypad(stdscr, TRUE);
+  timeout(kRestOfKey);
+  DefineKeys();
+  mouseinterval(0);
+  mousemask(BUTTON1_PRESSED | BUTTON1_CLICKED, nullptr);
+}
+
+void Terminal::SetUpColors() {
+  if (!Variable("NO_COLOR").empty() || !has_colors() || start_color() != OK || COLORS < 8) return;
+  colors_ = COLORS;
+}
+
+int Terminal::Width() const { return getmaxx(stdscr); }
+int Terminal::Height() const { return getmaxy(stdscr); }
+
+int Terminal::PairOf(int fore, int back) {
+  const auto [place, added] = pairs_.try_emplace({fore, back}, static_cast<int>(pairs_.size()) + 1);
+  if (added && (place->second >= COLOR_PAIRS || init_extended_pair(place->second, fore, back) != OK)) {
+    place->second = 0;
+  }
+  return place->second;
+}
+
+std::pair<unsigned, int> Terminal::AttributesOf(const Style& style) {
+  unsigned attributes = A_NORMAL;
+  if ((style.marks & kSelected) != 0) attributes |= A_REVERSE;
+  if (colors_ == 0) {
+    if ((style.marks & kEntry) != 0) attributes |= A_UNDERLINE;
+    if ((style.marks & (kActive | kStrong)) != 0) attributes |= A_BOLD;
+    return {attributes, 0};
+  }
+  if ((style.marks & kFlatEdge) != 0) attributes |= A_UNDERLINE;
+  constexpr Color kWhite = 0x00FFFFFF, kBlack = 0;
+  const int fore = TerminalColor(IsDark(style.back) ? kWhite : kBlack, colors_);
+  return {attributes, PairOf(fore, TerminalColor(style.back, colors_))};
+}
+
+void Terminal::Show(const Screen& screen) {
+  const Grid& grid = screen.grid;
+  for (int y = 0; y < grid.Height(); ++y) {
+    for (int x = 0; x < grid.Width(); ++x) {
+      const Cell& cell = grid.At(x, y);
+      auto [attributes, pair] = AttributesOf(cell.style);
+      const auto glyph = static_cast<wchar_t>(cell.glyph);
+      // A cell holds one column: what takes none, two or is no character shows the replacement.
+      const wchar_t text[] = {wcwidth(glyph) == 1 ? glyph : L'�', 0};
+      cchar_t shown;
+      setcchar(&shown, text, attributes, 0, &pair);
+      mvadd_wch(y, x, &shown);
+    }
+  }
+  curs_set(grid.caret ? 1 : 0);
+  if (grid.caret) move(grid.caret->y, grid.caret->x);
+  refresh();
+}
+
+void Terminal::Beep() { beep(); }
+
+Input Terminal::Next() {
+  while (true) {
+    wint_t character = 0;
+    const int result = get_wch(&character);
+    if (result != ERR) {
+      const auto input = result == KEY_CODE_YES ? InputOfKey(static_cast<int>(character))
+                                                : InputOfCharacter(static_cast<char32_t>(character));
+      if (input) return *input;
+      continue;
+    }
+    const Signals::Event event = signals_.Wait(STDIN_FILENO);
+    if (event.closed) throw Interrupted{SIGHUP};
+    switch (event.signal) {
+      case 0:
+        break;
+      case SIGTSTP:
+        Suspend();
+        return {};
+      case SIGCONT:
+      case SIGWINCH:
+        FitWindow();
+        return {};
+      default:
+        throw Interrupted{event.signal};
+    }
+  }
+}
+
+// Another program has had the terminal when this one goes on.
+void Terminal::Suspend() {
+  endwin();
+  signals_.Stop();
+  FitWindow();
+}
+
+void Terminal::FitWindow() {
+  reset_prog_mode();
+  winsize size{};
+  if (ioctl(fileno(out_.get()), TIOCGWINSZ, &size) == 0 && size.ws_row > 0 && size.ws_col > 0) {
+    resizeterm(size.ws_row, size.ws_col);
+  }
+  clearok(curscr, TRUE);
+}
+
+}  // namespace gabarito::cli

@@ -1,0 +1,22 @@
+// The keys of a terminal as those of the form.
+#ifndef CLI_FORM_TERMINAL_KEYS_H
+#define CLI_FORM_TERMINAL_KEYS_H
+
+#include <optional>
+
+#include "cli/form/display.h"
+
+namespace gabarito::cli {
+
+// Teaches ncurses the sequences that terminals send beyond what their description says.
+void DefineKeys();
+
+// A key code of ncurses; nothing for one that means nothing here.
+std::optional<Input> InputOfKey(int code);
+
+// A character that a key typed; nothing for NUL, which no key of the form types.
+std::optional<Input> InputOfCharacter(char32_t character);
+
+}  // namespace gabarito::cli
+
+#endif  // CLI_FORM_TERMINAL_KEYS_H

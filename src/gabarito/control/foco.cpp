@@ -6,15 +6,9 @@
 namespace gabarito {
 namespace {
 
-// The box of an array; raises 9 on an index that the host made up.
-TextBox& Caixa(const std::array<TextBox*, 3>& caixas, std::int16_t indice) {
-  if (indice < 0 || indice > 2) throw Erro(kSubscriptOutOfRange);
-  return *caixas[static_cast<std::size_t>(indice)];
-}
-
 void SelecionaTudo(PulaErros& pula, const std::array<TextBox*, 3>& caixas, std::int16_t indice) {
-  pula([&] { Caixa(caixas, indice).SelStart(0); });
-  pula([&] { Caixa(caixas, indice).SelLength(Len(Caixa(caixas, indice).Text())); });
+  pula([&] { CaixaDe(caixas, indice).SelStart(0); });
+  pula([&] { CaixaDe(caixas, indice).SelLength(Len(CaixaDe(caixas, indice).Text())); });
 }
 
 }  // namespace
@@ -40,8 +34,8 @@ void EntradaGotFocus(Campo& c, std::int16_t Index) {
     pula([&] { c.txt_entrada3D[i]->BackColor(kWindowBackground); });
   }
   if (c.mUsarFundoPastel) {
-    pula([&] { Caixa(c.txt_entrada, Index).BackColor(kPastel); });
-    pula([&] { Caixa(c.txt_entrada3D, Index).BackColor(kPastel); });
+    pula([&] { CaixaDe(c.txt_entrada, Index).BackColor(kPastel); });
+    pula([&] { CaixaDe(c.txt_entrada3D, Index).BackColor(kPastel); });
   }
   pula([&] { c.UserControl->Refresh(); });
 }

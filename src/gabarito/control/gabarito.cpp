@@ -102,7 +102,9 @@ void Gabarito::TrataEnterComoTab(bool valor) {
   c.UserControl->PropertyChanged(u"TrataEnterComoTab");
 }
 
-void Gabarito::KeyUp(KeyUpHandler handler) { c.aoKeyUp = std::move(handler); }
+void Gabarito::KeyUp(KeyUpHandler handler) {
+  c.aoKeyUp = handler ? std::make_shared<const KeyUpHandler>(std::move(handler)) : nullptr;
+}
 
 void Gabarito::UserControl_Initialize() { gabarito::UserControl_Initialize(c); }
 void Gabarito::UserControl_ReadProperties(const PropertyBag& PropBag) {
@@ -131,12 +133,12 @@ void Gabarito::txt_entrada3D_KeyDown(std::int16_t, std::int16_t& KeyCode, std::i
 }
 
 void Gabarito::txt_entrada_KeyPress(std::int16_t Index, std::int16_t& KeyAscii) {
-  const auto i = static_cast<std::size_t>(Index);
-  KeyPressDaCaixa(c, EspecieDe(c.mMask).regra, *c.txt_entrada.at(i), *c.txt_entrada3D.at(i), Index, KeyAscii);
+  KeyPressDaCaixa(c, EspecieDe(c.mMask).regra, CaixaDe(c.txt_entrada, Index), CaixaDe(c.txt_entrada3D, Index),
+                  Index, KeyAscii);
 }
 void Gabarito::txt_entrada3D_KeyPress(std::int16_t Index, std::int16_t& KeyAscii) {
-  const auto i = static_cast<std::size_t>(Index);
-  KeyPressDaCaixa(c, EspecieDe(c.mMask).regra, *c.txt_entrada3D.at(i), *c.txt_entrada.at(i), Index, KeyAscii);
+  KeyPressDaCaixa(c, EspecieDe(c.mMask).regra, CaixaDe(c.txt_entrada3D, Index), CaixaDe(c.txt_entrada, Index),
+                  Index, KeyAscii);
 }
 
 void Gabarito::MaskEdBox1_GotFocus() { gabarito::MaskEdBox1_GotFocus(c); }

@@ -113,7 +113,8 @@ class Gabarito {
   // --- Event ---------------------------------------------------------------------------------------------
 
   // Called for each key that goes down in a text box or comes up in Combo1, and with 13 and 0 after an Enter
-  // that moved on and after a jump. Both arguments may be changed. One handler; an empty one takes it away.
+  // that moved on and after a jump. Both arguments may be changed. One handler; an empty one takes it away. A
+  // handler may set another one, or none.
   void KeyUp(KeyUpHandler handler);
 
   // --- Handlers that the host raises ---------------------------------------------------------------------

@@ -18,16 +18,16 @@ void ContaErro(Campo& c, const Erro& erro) {
 }  // namespace
 
 void EscreveText(Campo& c, std::u16string_view dado) {
+  const std::u16string copia(dado);  // `dado` may be what a child shows, which the first step takes away
   try {
     c.mEntrada1->Text(u"");
     c.mEntrada2->Text(u"");
     c.mEntrada3->Text(u"");
-    EspecieDe(c.mMask).carrega(c, dado);
+    EspecieDe(c.mMask).carrega(c, copia);
+    c.UserControl->PropertyChanged(u"Text");
   } catch (const Erro& erro) {
     ContaErro(c, erro);
-    return;
   }
-  c.UserControl->PropertyChanged(u"Text");
 }
 
 void UserControl_ExitFocus(Campo& c) {

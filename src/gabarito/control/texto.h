@@ -9,8 +9,7 @@
 namespace gabarito {
 
 // Distributes `dado` over the active children by mMask, without validating and without touching mValor. A
-// failure ends in a message box and does not reach the caller. `dado` may be a view of a child's text only
-// if that child survives the emptying of the boxes: pass a copy.
+// failure ends in a message box and does not reach the caller. `dado` may be a view of a child's text.
 void EscreveText(Campo& c, std::u16string_view dado);
 
 // The one validator and the only writer of mValor: takes the pastel back, then normalises, judges and stores

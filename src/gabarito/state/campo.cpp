@@ -10,4 +10,9 @@ void Campo::KeyUpDeEnter() const {
   KeyUp(KeyCode, Shift);
 }
 
+TextBox& CaixaDe(const std::array<TextBox*, 3>& caixas, std::int16_t indice) {
+  if (indice < 0 || indice > 2) throw Erro(kSubscriptOutOfRange);
+  return *caixas[static_cast<std::size_t>(indice)];
+}
+
 }  // namespace gabarito

@@ -44,10 +44,11 @@ struct Campo : Host {
 
   CacheDeArredonda arredonda;
 
-  KeyUpHandler aoKeyUp;
+  std::shared_ptr<const KeyUpHandler> aoKeyUp;
   // Raises the public event. Both arguments hold afterwards what the program left in them.
   void KeyUp(std::int16_t& KeyCode, std::int16_t& Shift) const {
-    if (aoKeyUp) aoKeyUp(KeyCode, Shift);
+    // Held while it runs: a handler may put another one in its own place.
+    if (const auto handler = aoKeyUp) (*handler)(KeyCode, Shift);
   }
   // The same for Enter that was turned into Tab and for a jump: 13 and 0.
   void KeyUpDeEnter() const;
@@ -58,6 +59,9 @@ struct Campo : Host {
   // Raises 13 on a text that EhData refuses.
   Date ComoData(std::u16string_view texto) const { return CDate(texto, *Regional, Agora()); }
 };
+
+// The box of an array; raises 9 on an index outside 0 to 2, which only a host can make up.
+TextBox& CaixaDe(const std::array<TextBox*, 3>& caixas, std::int16_t indice);
 
 }  // namespace gabarito
 

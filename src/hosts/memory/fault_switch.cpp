@@ -22,7 +22,7 @@ void FaultSwitch::Watch(std::vector<std::string>* operations) {
   Rearm();
 }
 
-void FaultSwitch::Judge(std::string_view child, std::string_view member) {
+void FaultSwitch::Judge(std::string_view child, std::string_view member, Access access) {
   std::int32_t number = 0;
   if (countdown_ > 0 && --countdown_ == 0) number = countdown_number_;
   for (auto waiting = waiting_.begin(); number == 0 && waiting != waiting_.end(); ++waiting) {
@@ -32,7 +32,9 @@ void FaultSwitch::Judge(std::string_view child, std::string_view member) {
     break;
   }
   if (operations_ != nullptr) {
-    operations_->push_back(std::string(child).append(".").append(member).append(number != 0 ? "!" : ""));
+    std::string operation(child);
+    operation.append(".").append(member).append(access == Access::kWrite ? "=" : "");
+    operations_->push_back(operation.append(number != 0 ? "!" : ""));
   }
   Rearm();
   if (number != 0) throw Erro(number);

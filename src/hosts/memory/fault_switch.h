@@ -9,6 +9,9 @@
 
 namespace gabarito::memory {
 
+// Sets and methods write.
+enum class Access { kRead, kWrite };
+
 // An operation is one use of a member of a child or of the surface by the field, read or write.
 class FaultSwitch {
  public:
@@ -19,13 +22,13 @@ class FaultSwitch {
   // The n-th operation from now on fails; the first is 1.
   void FailNth(std::int64_t n, std::int32_t number);
 
-  // Keeps the operations as "child.member" from now on, a failed one with "!" behind it. Stop with null; the
-  // list outlives the watch.
+  // Keeps the operations from now on, as "child.member" for a read and "child.member=" for a write, a failed
+  // one with "!" behind it. Stop with null; the list outlives the watch.
   void Watch(std::vector<std::string>* operations);
 
   // Called by each child at the start of each operation. Raises the error that waits for it.
-  void Use(std::string_view child, std::string_view member) {
-    if (armed_) Judge(child, member);
+  void Use(std::string_view child, std::string_view member, Access access) {
+    if (armed_) Judge(child, member, access);
   }
 
  private:
@@ -35,7 +38,7 @@ class FaultSwitch {
     std::int32_t number;
   };
 
-  void Judge(std::string_view child, std::string_view member);
+  void Judge(std::string_view child, std::string_view member, Access access);
   void Rearm() { armed_ = !waiting_.empty() || countdown_ > 0 || operations_ != nullptr; }
 
   bool armed_ = false;

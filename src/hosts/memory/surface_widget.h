@@ -37,7 +37,9 @@ class SurfaceWidget final : public UserControl, public Focusable {
   gabarito::Color Color() const { return color_; }
 
  private:
-  void Use(std::string_view member) const { form_.System().faults.Use("UserControl", member); }
+  // Members that are const read.
+  void Use(std::string_view member) const { form_.System().faults.Use("UserControl", member, Access::kRead); }
+  void Use(std::string_view member) { form_.System().faults.Use("UserControl", member, Access::kWrite); }
 
   Field& field_;
   Form& form_;

@@ -56,7 +56,9 @@ class Widget : public Interface {
   std::string_view ChildName() const { return design_.name; }
 
  protected:
-  void Use(std::string_view member) const { form_.System().faults.Use(design_.name, member); }
+  // Members that are const read.
+  void Use(std::string_view member) const { form_.System().faults.Use(design_.name, member, Access::kRead); }
+  void Use(std::string_view member) { form_.System().faults.Use(design_.name, member, Access::kWrite); }
 
   Field& field_;
   Form& form_;

@@ -42,7 +42,8 @@ void CarregaIntervaloNumerico(Campo& c, std::u16string_view dado) {
 void SaiDoInteiro(Campo& c) {
   PulaErros pula;
   if (pula.Se([&] { return !c.mEntrada1->Text().empty(); })) {
-    pula([&] { c.mEntrada1->Text(NumberToText(Val(c.mEntrada1->Text()), c.Regional->decimal)); });
+    // With the point whatever the region: Val reads no other mark, and "1,2E+16" would be a 1 the next time.
+    pula([&] { c.mEntrada1->Text(NumberToText(Val(c.mEntrada1->Text()))); });
   }
   pula([&] { c.mValor = c.mEntrada1->Text(); });
 }

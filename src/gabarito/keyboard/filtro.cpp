@@ -51,17 +51,14 @@ void EntradaKeyPress(Campo& c, const RegraDeTecla& regra, TextBox& txt, std::int
     return;
   }
 
-  std::int32_t tamanho = 0;
-  std::int32_t limite = 0;
-  bool substituiTudo = false;
+  // A text or a limit that the box does not give leaves out what compares them; the key is judged by itself.
+  std::u16string_view texto;
+  std::int32_t limite = -1;
+  if (pula([&] { texto = txt.Text(); })) pula([&] { limite = txt.MaxLength(); });
+  const std::int32_t tamanho = Len(texto);
+  const bool substituiTudo = selecao == tamanho && tamanho > 0;
   Desfecho desfecho = Desfecho::kPassa;
-  pula([&] { limite = txt.MaxLength(); });
-  pula([&] {
-    const std::u16string_view texto = txt.Text();
-    tamanho = Len(texto);
-    substituiTudo = selecao == tamanho && tamanho > 0;
-    desfecho = Julga(regra, Index, substituiTudo ? std::u16string_view() : texto, Chr(KeyAscii));
-  });
+  pula([&] { desfecho = Julga(regra, Index, substituiTudo ? std::u16string_view() : texto, Chr(KeyAscii)); });
   if (!substituiTudo && tamanho == limite) pula([&] { c.Dialogs->Beep(); });
   if (desfecho == Desfecho::kRejeita) {
     pula([&] { c.Dialogs->Beep(); });

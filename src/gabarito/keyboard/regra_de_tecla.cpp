@@ -2,13 +2,11 @@
 
 #include <string>
 
-#include "gabarito/platform/number.h"
+#include "gabarito/rules/digitos.h"
 #include "gabarito/rules/texto.h"
 
 namespace gabarito {
 namespace {
-
-bool EhDigito(char16_t c) { return c >= u'0' && c <= u'9'; }
 
 double ValorDoCandidato(std::u16string_view texto, char16_t caractere) {
   char16_t curto[65];

@@ -1,5 +1,7 @@
 #include "hosts/memory/masked_widget.h"
 
+#include <algorithm>
+
 #include "gabarito/platform/text.h"
 #include "hosts/memory/field.h"
 #include "hosts/memory/text_entry.h"
@@ -52,12 +54,22 @@ void MaskedWidget::CutOrCopy(bool cut) {
   if (cut) line_.Delete();
 }
 
+// The engine itself sets MaxLength no bound to a text that is handed to it.
+void MaskedWidget::Paste() {
+  std::u16string_view text = FirstLine(form_.System().clipboard);
+  if (line_.Mask().empty() && line_.MaxLength() > 0) {
+    const std::int32_t kept = Len(line_.Text()) - line_.SelLength();
+    text = Left(text, std::max(line_.MaxLength() - kept, 0));
+  }
+  if (!text.empty()) line_.SelText(text);
+}
+
 bool MaskedWidget::KeyDown(std::int16_t vk, std::int16_t shift) {
   switch (ClipboardKey(vk, shift)) {
     case 0:
       break;
     case kPaste:
-      line_.SelText(FirstLine(form_.System().clipboard));
+      Paste();
       return false;
     case kCut:
       CutOrCopy(true);

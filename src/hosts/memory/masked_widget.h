@@ -28,6 +28,7 @@ class MaskedWidget final : public InputWidget<MaskEdBox, MaskedEdit> {
 
  private:
   void CutOrCopy(bool cut);
+  void Paste();
 
   std::int32_t appearance_ = 1;
 };

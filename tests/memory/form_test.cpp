@@ -44,5 +44,17 @@ TEST(Form, TabGoesRoundThroughWhatCanTakeTheFocus) {
   form.Type(u"nobody is there");
 }
 
+TEST(Form, AHookedListGivesBackItsDrawingContextAndLetsNoErrorOut) {
+  Form form;
+  Field& field = form.AddField("field");
+  field.Create();
+  field->HookCombo();
+  const WindowHandle window = field.Parts().Combo1.Window();
+  form.AllWindows().Send(window, 15, 0, 0);
+  EXPECT_EQ(form.AllWindows().OpenContexts(), 0);
+  form.AllWindows().SetPropA(window, "ObjectPointer", 0);
+  EXPECT_NO_THROW(form.AllWindows().Send(window, 15, 0, 0));
+}
+
 }  // namespace
 }  // namespace gabarito::memory

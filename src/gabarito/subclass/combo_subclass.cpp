@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "gabarito/platform/erro.h"
 #include "gabarito/platform/number.h"
+#include "gabarito/platform/pula_erros.h"
 
 namespace gabarito {
 namespace {
@@ -36,19 +36,22 @@ void DesenhaBorda(User32& user32, WindowHandle hWnd) {
 // What the system calls. An error must not escape into it: it takes the procedure off instead.
 std::int32_t ProcedimentoDoModulo(User32& user32, WindowHandle hWnd, std::int32_t uMsg, std::int32_t wParam,
                                   std::int32_t lParam) {
-  auto* campo = reinterpret_cast<Campo*>(user32.GetPropA(hWnd, kObjectPointer));
+  Campo* campo = nullptr;
   try {
+    campo = reinterpret_cast<Campo*>(user32.GetPropA(hWnd, kObjectPointer));
     if (campo == nullptr) throw Erro(kObjectNotSet);
     return ComboWindowProc(*campo, hWnd, uMsg, wParam, lParam);
   } catch (const Erro& erro) {
-    UnhookCombo(user32, hWnd);
-    if (campo != nullptr) {
+    PulaErros pula;
+    pula([&] { UnhookCombo(user32, hWnd); });
+    if (campo == nullptr) return 0;
+    pula([&] {
       campo->Dialogs->Trace(u"Unhook on Error, #" + NumberToText(erro.Number()) + u"  Desc: " +
                             erro.Description() + u"  Message, hWnd: &h" +
                             Hexadecimal(static_cast<std::uint32_t>(hWnd)) + u" Msg: &h" +
                             Hexadecimal(static_cast<std::uint32_t>(uMsg)) + u" Params: " +
                             NumberToText(wParam) + u" " + NumberToText(lParam));
-    }
+    });
     return 0;
   }
 }

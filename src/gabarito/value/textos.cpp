@@ -3,6 +3,7 @@
 #include <limits>
 #include <string>
 
+#include "gabarito/platform/number.h"
 #include "gabarito/platform/text.h"
 #include "gabarito/rules/texto.h"
 #include "gabarito/state/mensagens.h"
@@ -47,7 +48,7 @@ void CarregaCEP(Campo& c, std::u16string_view dado) {
   const std::u16string semPontos = Substitui(dado, u".", u"");
   const std::u16string_view cep = Trim(semPontos);
   if (cep.empty()) return;
-  const std::int32_t p = InStr(cep, u"-");
+  const std::int32_t p = ToInt16(InStr(cep, u"-"));
   if (p != 0) {
     c.mEntrada1->Text(Left(cep, p - 1));
     c.mEntrada2->Text(Mid(cep, p + 1));

@@ -1,6 +1,7 @@
 #include "gabarito/combo/procura.h"
 
 #include <algorithm>
+#include <optional>
 
 #include "gabarito/platform/pula_erros.h"
 #include "gabarito/platform/text.h"
@@ -32,12 +33,13 @@ std::u16string ProcuraNoCombo(const Campo& c, std::u16string_view s) {
   std::int16_t quantos = 0;
   pula([&] { quantos = c.Combo1->ListCount(); });
   // A pattern that is not valid fails for every entry alike.
-  if (!pula([&] { (void)Like(u"", padrao); })) return {};
+  std::optional<LikePattern> modelo;
+  if (!pula([&] { modelo.emplace(padrao); })) return {};
   for (std::int16_t i = 0; i < quantos; ++i) {
     std::u16string achado;
     if (pula.Se([&] {
           const std::u16string_view item = c.Combo1->List(i);
-          if (!Like(item, padrao)) return false;
+          if (!modelo->Matches(item)) return false;
           achado = item;
           return true;
         })) {

@@ -76,7 +76,13 @@ bool MatchesElement(char16_t character, std::u16string_view pattern, std::size_t
 }  // namespace
 
 bool Like(std::u16string_view text, std::u16string_view pattern) {
-  CheckPattern(pattern);
+  return LikePattern(pattern).Matches(text);
+}
+
+LikePattern::LikePattern(std::u16string_view pattern) : pattern_(pattern) { CheckPattern(pattern); }
+
+bool LikePattern::Matches(std::u16string_view text) const {
+  const std::u16string_view pattern = pattern_;
   constexpr std::size_t kNone = std::u16string_view::npos;
   std::size_t at = 0;             // in the text
   std::size_t element = 0;        // in the pattern

@@ -61,6 +61,18 @@ std::u16string String(std::int32_t count, char16_t character);
 // proportional to the product of both lengths.
 bool Like(std::u16string_view text, std::u16string_view pattern);
 
+// The pattern of Like, checked once for many texts: a long one costs a short text little. Keep the text of
+// the pattern alive as long as the object.
+class LikePattern {
+ public:
+  // Raises 93 as Like does.
+  explicit LikePattern(std::u16string_view pattern);
+  bool Matches(std::u16string_view text) const;
+
+ private:
+  std::u16string_view pattern_;
+};
+
 }  // namespace gabarito
 
 #endif  // GABARITO_PLATFORM_TEXT_H

@@ -15,8 +15,9 @@ void CarregaDaLista(Campo& c, std::u16string_view dado) { SelecionaNoCombo(c, da
 
 void CarregaListaNoCombo(Campo& c, std::u16string_view dado) {
   c.Combo1->ListIndex(-1);
-  const std::u16string procurado = pfTiraAcentoDeFrase(dado);  // which also puts it into capitals
   const std::int16_t quantos = c.Combo1->ListCount();
+  if (quantos == 0) return;  // with nothing to compare it to, a text that is too long does not matter either
+  const std::u16string procurado = pfTiraAcentoDeFrase(dado);  // which also puts it into capitals
   for (std::int16_t i = 0; i < quantos; ++i) {
     if (pfTiraAcentoDeFrase(c.Combo1->List(i)) == procurado) {
       c.Combo1->ListIndex(i);

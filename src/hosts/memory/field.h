@@ -33,7 +33,8 @@ struct FieldParts {
 };
 
 // A control of the form that holds at most one field at a time. There is none before Create, Load or Place;
-// using it then raises 91.
+// using it then raises 91. Not to be ended or replaced from a handler of that very field, nor while a message
+// box of its own is open: its parts go with it.
 class Field final : public Control {
  public:
   Field(Form& form, std::string name) : form_(form), name_(std::move(name)) {}

@@ -17,10 +17,15 @@ float SurfaceWidget::Height() const {
 
 void SurfaceWidget::Height(float height) {
   Use("Height");
-  Size(bounds_.width, height);
+  Resize(bounds_.width, height);
 }
 
 void SurfaceWidget::Size(float width, float height) {
+  Resize(width, height);
+  Settle();
+}
+
+void SurfaceWidget::Resize(float width, float height) {
   RefuseNegative(width);
   RefuseNegative(height);
   if (width == bounds_.width && height == bounds_.height) return;

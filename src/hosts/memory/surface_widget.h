@@ -28,7 +28,8 @@ class SurfaceWidget final : public UserControl, public Focusable {
   bool CanTakeFocus() const override { return true; }
   void GotFocus() override;
 
-  // The host sizes the field, in twips. Raises Resize if the size changes, and 380 on a negative one.
+  // The host sizes the field, in twips. Raises Resize if the size changes, and 380 on a negative one; then
+  // settles the focus.
   void Size(float width, float height);
   // Raises Resize as it stands.
   void RaiseResize();
@@ -38,6 +39,7 @@ class SurfaceWidget final : public UserControl, public Focusable {
 
  private:
   // Members that are const read.
+  void Resize(float width, float height);
   void Use(std::string_view member) const { form_.System().faults.Use("UserControl", member, Access::kRead); }
   void Use(std::string_view member) { form_.System().faults.Use("UserControl", member, Access::kWrite); }
 

@@ -36,6 +36,15 @@ void ComboWidget::Move(float left, std::optional<float> top, std::optional<float
   InputWidget::Move(left, top, width, {});
 }
 
+void ComboWidget::Text(std::u16string_view text) {
+  InputWidget::Text(text);
+  Edited();
+}
+
+void ComboWidget::Edited() {
+  if (selected_ >= 0 && line_.Text() != list_.At(static_cast<std::size_t>(selected_))) selected_ = -1;
+}
+
 void ComboWidget::AddItem(std::u16string_view text) {
   Use("AddItem");
   list_.Add(text);
@@ -115,11 +124,13 @@ void ComboWidget::LostFocus() {
 bool ComboWidget::KeyDown(std::int16_t vk, std::int16_t shift) {
   if (const char16_t key = ClipboardKey(vk, shift)) {
     TypeInto(line_, key, 0, form_.System().clipboard);
+    Edited();
     return false;
   }
   if (ChooseByKey(vk, shift)) return true;
   if (vk == kVkReturn || vk == kVkEscape) dropped_down_ = false;
   KeyInto(line_, anchor_, vk, shift);
+  Edited();
   return true;
 }
 
@@ -158,7 +169,9 @@ bool ComboWidget::ChooseByKey(std::int16_t vk, std::int16_t shift) {
 void ComboWidget::Character(char16_t character) {
   std::int16_t KeyAscii = Asc(character);
   field_->Combo1_KeyPress(KeyAscii);
-  if (KeyAscii != 0) TypeInto(line_, Chr(KeyAscii), 0, form_.System().clipboard);
+  if (KeyAscii == 0) return;
+  TypeInto(line_, Chr(KeyAscii), 0, form_.System().clipboard);
+  Edited();
 }
 
 void ComboWidget::KeyUp(std::int16_t vk, std::int16_t shift) { field_->Combo1_KeyUp(vk, shift); }

@@ -10,7 +10,8 @@
 namespace gabarito::memory {
 
 // Beside the events that combo_box.h tells: the arrows up and down and Page Up and Page Down choose another
-// entry, which raises Click; F4 and Alt with an arrow open and close the list.
+// entry, which raises Click; F4 and Alt with an arrow open and close the list. An edit that leaves another text
+// than that of the selected entry leaves no entry selected, without a Click.
 class ComboWidget final : public InputWidget<ComboBox, EditLine> {
  public:
   ComboWidget(Field& field, Form& form, Control& owner, const ChildDesign& design);
@@ -22,6 +23,8 @@ class ComboWidget final : public InputWidget<ComboBox, EditLine> {
   gabarito::Color BackColor() const override;
   void Move(float left, std::optional<float> top, std::optional<float> width,
             std::optional<float> height) override;
+  using InputWidget::Text;
+  void Text(std::u16string_view text) override;
   void AddItem(std::u16string_view text) override;
   void Clear() override;
   std::u16string_view List(std::int16_t index) const override;
@@ -58,6 +61,7 @@ class ComboWidget final : public InputWidget<ComboBox, EditLine> {
 
  private:
   void Select(std::int16_t index);
+  void Edited();
   bool ChooseByKey(std::int16_t vk, std::int16_t shift);
 
   ComboList list_;

@@ -47,7 +47,7 @@ sees 'F4 abre a lista'
 keys Tab
 keys -l 'não'
 keys Tab
-sees '▸               [ Sair ]'
+sees '▸             [ Sair ]'
 keys Enter
 sees 'left'
 expect '0 {"cpf":"111.444.777-35","municipio":"SAO JOSE DOS CAMPOS/SP","obs":"NÃO"}' "$(cat "$work/out")"

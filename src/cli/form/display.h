@@ -20,7 +20,7 @@ struct Input {
   std::int16_t vk = 0;
   std::int16_t shift = 0;
   char16_t character = 0;
-  Point at;
+  Point at = {};
 };
 
 // Thrown by Display::Next: a signal asks the program to end.

@@ -1,9 +1,11 @@
 #include "cli/form/field_list.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <fstream>
 #include <limits>
 #include <sstream>
+#include <system_error>
 
 #include "cli/utf8.h"
 #include "gabarito/state/mascaras.h"
@@ -152,11 +154,15 @@ std::vector<FieldSpec> ReadFieldList(std::string_view text) {
 }
 
 std::vector<FieldSpec> ReadFieldListFile(const std::string& file) {
+  errno = 0;
   std::ifstream in(file, std::ios::binary);
   std::ostringstream text;
-  if (!in || !(text << in.rdbuf())) throw UsageError(file + ": cannot be read, or is empty");
+  text << in.rdbuf();  // of a directory nothing can be read
+  if (errno != 0) throw std::system_error(errno, std::generic_category(), "cannot read " + file);
   try {
-    return ReadFieldList(text.str());
+    std::vector<FieldSpec> fields = ReadFieldList(text.str());
+    for (FieldSpec& field : fields) field.where.insert(0, file + ": ");
+    return fields;
   } catch (const UsageError& error) {
     throw UsageError(file + ": " + error.what());
   }

@@ -30,7 +30,7 @@ std::vector<FieldSpec> BuiltInFields();
 // value of the wrong type, no field at all. Properties are judged when they are set.
 std::vector<FieldSpec> ReadFieldList(std::string_view json);
 
-// The same from a file; messages begin with its name.
+// The same from a file; messages begin with its name. std::system_error when it cannot be read.
 std::vector<FieldSpec> ReadFieldListFile(const std::string& file);
 
 }  // namespace gabarito::cli

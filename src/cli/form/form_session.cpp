@@ -10,8 +10,8 @@
 namespace gabarito::cli {
 namespace {
 
-// Leaves the form out of a message box. It passes through the handlers of the field, which skip an Erro only:
-// two fields that each refuse the other's focus ask without end, and this is the way out.
+// Leaves the form out of a message box, so that a field that goes on refusing holds nobody. It passes through
+// the handlers of the field, which skip an Erro only.
 struct LeftFromMessageBox {};
 
 bool ClickTarget(const Screen& screen, Point at) {

@@ -76,8 +76,8 @@ Screen FormView::Draw(int width, int height) {
       screen.targets.push_back({surface, row, static_cast<int>(kSair.size()), [this](int) { leave_(); }});
     }
   }
-  if (top_ > 0) grid.Put(width - 1, rows.first, U'▲', {});
-  if (top_ + visible <= button) grid.Put(width - 1, rows.end - 1, U'▼', {});
+  if (top_ > 0) grid.Put(1, rows.first, U'▲', {});
+  if (top_ + visible <= button) grid.Put(1, rows.end - 1, U'▼', {});
 
   memory::ComboWidget* const combo = model_.FocusedCombo();
   if (combo != nullptr && combo->DroppedDown()) {

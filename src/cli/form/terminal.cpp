@@ -114,6 +114,7 @@ std::pair<unsigned, int> Terminal::AttributesOf(const Style& style) {
   if (colors_ == 0) {
     if ((style.marks & kEntry) != 0) attributes |= A_UNDERLINE;
     if ((style.marks & (kActive | kStrong)) != 0) attributes |= A_BOLD;
+    if (IsDark(style.back)) attributes ^= A_REVERSE;
     return {attributes, 0};
   }
   if ((style.marks & kFlatEdge) != 0) attributes |= A_UNDERLINE;

@@ -65,7 +65,7 @@ constexpr Key kKeys[] = {
 };
 
 Input KeyInput(std::int16_t vk, std::int16_t shift = 0) {
-  return {.kind = Input::Kind::kKey, .vk = vk, .shift = shift, .character = 0, .at = {}};
+  return {.kind = Input::Kind::kKey, .vk = vk, .shift = shift};
 }
 
 }  // namespace
@@ -101,7 +101,7 @@ std::optional<Input> InputOfCharacter(char32_t character) {
     case 0:
       return {};
     case kCtrlQ:
-      return Input{.kind = Input::Kind::kLeave, .vk = 0, .shift = 0, .character = 0, .at = {}};
+      return Input{.kind = Input::Kind::kLeave};
     case U'\b':
     case kDel:
       return KeyInput(kVkBack);
@@ -117,7 +117,7 @@ std::optional<Input> InputOfCharacter(char32_t character) {
   }
   // What lies outside the first plane is one character that no field takes, not two.
   const char16_t unit = character > 0xFFFF ? u'�' : static_cast<char16_t>(character);
-  return Input{.kind = Input::Kind::kCharacter, .vk = 0, .shift = 0, .character = unit, .at = {}};
+  return Input{.kind = Input::Kind::kCharacter, .character = unit};
 }
 
 }  // namespace gabarito::cli

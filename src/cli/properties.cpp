@@ -251,4 +251,14 @@ Json LengthToJson(float length) {
   return static_cast<double>(length);
 }
 
+float LengthFromText(std::string_view text) {
+  constexpr float kMost = 1440e6F;
+  float length = 0;
+  const auto [end, fault] = std::from_chars(text.data(), text.data() + text.size(), length);
+  if (fault != std::errc() || end != text.data() + text.size() || !(std::fabs(length) <= kMost)) {
+    throw UsageError("a length is a number of twips, not " + Quoted(text));
+  }
+  return length;
+}
+
 }  // namespace gabarito::cli

@@ -45,6 +45,8 @@ FontRef FontFromJson(const Json& value);
 
 // A length in twips: without a point when it is whole.
 Json LengthToJson(float length);
+// UsageError beyond a million inches either way, where sums of lengths would leave the numbers.
+float LengthFromText(std::string_view text);
 
 }  // namespace gabarito::cli
 

@@ -21,12 +21,6 @@ struct Member {
   bool dumped = true;
 };
 
-float Length(std::string_view text) {
-  const Json value = JsonFromText(text, "a length");
-  if (!value.is_number()) throw UsageError("a length is a number of twips");
-  return value.get<float>();
-}
-
 std::int32_t Int32(std::string_view text) {
   return static_cast<std::int32_t>(NumberFromText(text, "the member", kLeast32, kMost32));
 }
@@ -49,16 +43,19 @@ using memory::TextBoxWidget;
 
 template <class W>
 constexpr Member<W> kLeft = {"Left", [](const W& w) { return LengthToJson(w.Bounds().left); },
-                             [](W& w, std::string_view v) { w.Move(Length(v), {}, {}, {}); }};
+                             [](W& w, std::string_view v) { w.Move(LengthFromText(v), {}, {}, {}); }};
 template <class W>
-constexpr Member<W> kTop = {"Top", [](const W& w) { return LengthToJson(w.Bounds().top); },
-                            [](W& w, std::string_view v) { w.Move(w.Bounds().left, Length(v), {}, {}); }};
+constexpr Member<W> kTop = {
+    "Top", [](const W& w) { return LengthToJson(w.Bounds().top); },
+    [](W& w, std::string_view v) { w.Move(w.Bounds().left, LengthFromText(v), {}, {}); }};
 template <class W>
-constexpr Member<W> kWidth = {"Width", [](const W& w) { return LengthToJson(w.Bounds().width); },
-                              [](W& w, std::string_view v) { w.Move(w.Bounds().left, {}, Length(v), {}); }};
+constexpr Member<W> kWidth = {
+    "Width", [](const W& w) { return LengthToJson(w.Bounds().width); },
+    [](W& w, std::string_view v) { w.Move(w.Bounds().left, {}, LengthFromText(v), {}); }};
 template <class W>
-constexpr Member<W> kHeight = {"Height", [](const W& w) { return LengthToJson(w.Bounds().height); },
-                               [](W& w, std::string_view v) { w.Move(w.Bounds().left, {}, {}, Length(v)); }};
+constexpr Member<W> kHeight = {
+    "Height", [](const W& w) { return LengthToJson(w.Bounds().height); },
+    [](W& w, std::string_view v) { w.Move(w.Bounds().left, {}, {}, LengthFromText(v)); }};
 template <class W>
 constexpr Member<W> kVisible = {"Visible", [](const W& w) { return Json(w.IsVisible()); },
                                 [](W& w, std::string_view v) { w.Visible(Boolean(v)); }};

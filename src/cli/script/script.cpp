@@ -1,6 +1,5 @@
 #include "cli/script/script.h"
 
-#include <charconv>
 #include <istream>
 #include <ostream>
 #include <stdexcept>
@@ -30,15 +29,6 @@ void NoMore(std::string_view rest) {
 std::int16_t Int16(std::string_view text, std::string_view what, std::int16_t least = -32768,
                    std::int16_t most = 32767) {
   return static_cast<std::int16_t>(NumberFromText(text, what, least, most));
-}
-
-float Twips(std::string_view text) {
-  float value = 0;
-  const auto [end, fault] = std::from_chars(text.data(), text.data() + text.size(), value);
-  if (text.empty() || fault != std::errc() || end != text.data() + text.size()) {
-    throw UsageError("a length is a number of twips, not '" + std::string(text) + "'");
-  }
-  return value;
 }
 
 memory::MemoryBag Bag(std::string_view json) {
@@ -200,8 +190,8 @@ void Script::Save(std::string_view rest) {
 }
 
 void Script::Size(std::string_view rest) {
-  const float width = Twips(Word(rest));
-  const float height = Twips(Word(rest));
+  const float width = LengthFromText(Word(rest));
+  const float height = LengthFromText(Word(rest));
   NoMore(rest);
   field_.Parts().surface.Size(width, height);
 }

@@ -21,6 +21,10 @@ class Script {
   // Carries one line out. Throws UsageError, with nothing carried out, on a line that is not understood.
   void Line(std::string_view line);
 
+  // What the script drives, for a look behind the transcript.
+  memory::Form& TheForm() { return form_; }
+  memory::Field& TheField() { return field_; }
+
  private:
   struct Action;
   static const Action* Find(std::string_view name);

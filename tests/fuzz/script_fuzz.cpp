@@ -1,0 +1,85 @@
+#include "script_fuzz.h"
+
+#include <cmath>
+#include <exception>
+
+namespace gabarito::cli {
+namespace {
+
+bool Sound(const memory::Geometry& place) {
+  return std::isfinite(place.left) && std::isfinite(place.top) && std::isfinite(place.width) &&
+         std::isfinite(place.height) && place.width >= 0 && place.height >= 0;
+}
+
+// The selection lies inside the text.
+template <class Widget>
+bool SoundEntry(const Widget& widget) {
+  const auto& entry = widget.Entry();
+  const auto size = static_cast<std::int64_t>(entry.Text().size());
+  return Sound(widget.Bounds()) && entry.SelStart() >= 0 && entry.SelLength() >= 0 &&
+         std::int64_t{entry.SelStart()} + entry.SelLength() <= size;
+}
+
+std::string BrokenChild(const memory::FieldParts& parts) {
+  for (std::size_t i = 0; i < 3; ++i) {
+    if (!Sound(parts.lbl_controle[i].Bounds())) return "a label is out of place";
+    if (!SoundEntry(parts.txt_entrada[i]) || !SoundEntry(parts.txt_entrada3D[i]))
+      return "a text box is unsound";
+  }
+  const auto entries = static_cast<std::int64_t>(parts.Combo1.Entries().Count());
+  if (!SoundEntry(parts.MaskEdBox1)) return "the masked box is unsound";
+  if (!SoundEntry(parts.Combo1) || parts.Combo1.Selected() < -1 || parts.Combo1.Selected() >= entries) {
+    return "the combo box is unsound";
+  }
+  return Sound(parts.surface.Bounds()) ? "" : "the surface is out of place";
+}
+
+// All three active boxes are unset, or they are one array.
+bool OneArray(const Campo& field) {
+  if (!field.mEntrada1) return !field.mEntrada2 && !field.mEntrada3;
+  if (!field.mEntrada2 || !field.mEntrada3) return false;
+  for (const auto& boxes : {field.txt_entrada, field.txt_entrada3D}) {
+    if (&*field.mEntrada1 == boxes[0]) return &*field.mEntrada2 == boxes[1] && &*field.mEntrada3 == boxes[2];
+  }
+  return false;
+}
+
+}  // namespace
+
+std::string Attack::Run(const std::string& line) {
+  out_.str({});
+  try {
+    script_.Line(line);
+  } catch (const UsageError&) {
+  } catch (const Erro& erro) {
+    return "error " + std::to_string(erro.Number()) + " got out of the script";
+  } catch (const std::exception& fault) {
+    return fault.what();
+  }
+  return BrokenInvariant(line);
+}
+
+std::string Attack::BrokenInvariant(const std::string& line) {
+  const memory::Focusable* focused = script_.TheForm().Focused();
+  if (focused == nullptr || !focused->CanTakeFocus()) return "the focus is where it cannot be";
+  memory::Field& field = script_.TheField();
+  if (!field.Exists()) return {};
+  const Campo& state = field->Estado();
+  if (!OneArray(state)) return "the active boxes are not one array";
+  if (state.mMaxLength < 0) return "mMaxLength is negative";
+  if (state.mSegmentos < 0 || state.mSegmentos > 3)
+    return "mSegmentos is " + std::to_string(state.mSegmentos);
+  const std::string written = out_.str();
+  if (line.starts_with("set MaskText ") &&
+      written.find("PropertyChanged\",\"name\":\"MaskText") != std::string::npos && state.mMask != gbDefUsr) {
+    return "MaskText was set without its kind";
+  }
+  const bool life = line.starts_with("new") || line.starts_with("init") || line.starts_with("load");
+  const bool exit =
+      line.starts_with("get Text") || written.find("\"event\":\"ExitFocus\"") != std::string::npos;
+  if (state.mValor != value_ && !life && !exit) return "mValor changed without an exit";
+  value_ = state.mValor;
+  return BrokenChild(field.Parts());
+}
+
+}  // namespace gabarito::cli

@@ -10,81 +10,82 @@
 namespace gabarito::cli {
 namespace {
 
-// A word in braces is replaced by something random of that name; what stands more often comes more often.
-constexpr std::string_view kLines[] = {
-    "new",
-    "init",
-    "load {bag}",
-    "save",
-    "dump",
-    "raise Show",
-    "raise Resize",
-    "raise GotFocus",
-    "raise ExitFocus",
-    "raise Terminate",
-    "raise AmbientChanged BackColor",
-    "raise ReadProperties {bag}",
-    "size {length} {length}",
-    "ambient BackColor {number}",
-    "ambient Font {font}",
-    "ambient none",
-    "ambient available",
-    "set Mask {mask}",
-    "set Mask {mask}",
-    "set Mask {mask}",
-    "set Mask {number}",
-    "set MaxLength {number}",
-    "set Text {text}",
-    "set Text {text}",
-    "set MaskText {pattern}",
-    "set ComboItens {items}",
-    "set ComboListIndex {number}",
-    "set Enabled {boolean}",
-    "set BackColor {number}",
-    "set UsarFundoPastel {boolean}",
-    "set PreencherDatasInvalidasComDataDeHoje {boolean}",
-    "set TrataEnterComoTab {boolean}",
-    "set Appearance {look}",
-    "set Font {font}",
-    "get {property}",
-    "get Text",
-    "get Text",
-    "call ApagaCampos",
-    "call Sobre",
-    "call pfTiraAcentoDeFrase {text}",
-    "focus {receiver}",
-    "focus {receiver}",
-    "focus {receiver}",
-    "type {typed}",
-    "type {typed}",
-    "type {typed}",
-    "key {key} {shift}",
-    "key {key} {shift}",
-    "key {key}",
-    "keys {keys}",
-    "paste {text}",
-    "select {small} {small}",
-    "child {child} {member} {value}",
-    "child {child} {member}",
-    "answer {small}",
-    "onkeyup {number}",
-    "onkeyup none",
-    "clock {moment}",
-    "region decimal {mark}",
-    "region thousands {mark}",
-    "region lastTwoDigitYear {number}",
-    "layout us",
-    "layout abnt2",
-    "capslock on",
-    "capslock off",
-    "fail {child}.{operation} {error}",
-    "fail UserControl.{surface} {error}",
-    "hook",
-    "unhook",
-    "message {message}",
-    "message other {message}",
-    "{text}",
+// A word in braces is replaced by something random of that name.
+struct Line {
+  std::uint32_t weight;
+  std::string_view pattern;
 };
+constexpr Line kLines[] = {
+    {1, "new"},
+    {1, "init"},
+    {1, "load {bag}"},
+    {2, "save"},
+    {1, "dump"},
+    {2, "raise Show"},
+    {2, "raise Resize"},
+    {2, "raise GotFocus"},
+    {2, "raise ExitFocus"},
+    {1, "raise Terminate"},
+    {2, "raise AmbientChanged BackColor"},
+    {2, "raise ReadProperties {bag}"},
+    {3, "size {length} {length}"},
+    {1, "ambient BackColor {number}"},
+    {1, "ambient Font {font}"},
+    {1, "ambient none"},
+    {1, "ambient available"},
+    {12, "set Mask {mask}"},
+    {1, "set Mask {number}"},
+    {2, "set MaxLength {number}"},
+    {8, "set Text {text}"},
+    {3, "set MaskText {pattern}"},
+    {3, "set ComboItens {items}"},
+    {2, "set ComboListIndex {number}"},
+    {3, "set Enabled {boolean}"},
+    {1, "set BackColor {number}"},
+    {1, "set UsarFundoPastel {boolean}"},
+    {2, "set PreencherDatasInvalidasComDataDeHoje {boolean}"},
+    {2, "set TrataEnterComoTab {boolean}"},
+    {3, "set Appearance {look}"},
+    {1, "set Font {font}"},
+    {2, "get {property}"},
+    {6, "get Text"},
+    {2, "call ApagaCampos"},
+    {1, "call Sobre"},
+    {1, "call pfTiraAcentoDeFrase {text}"},
+    {8, "focus field"},
+    {6, "focus {receiver}"},
+    {24, "type {typed}"},
+    {16, "key {key} {shift}"},
+    {6, "keys {keys}"},
+    {4, "paste {text}"},
+    {3, "select {small} {small}"},
+    {6, "child {child} {member} {value}"},
+    {1, "child {child} {member}"},
+    {3, "answer {small}"},
+    {2, "onkeyup {number}"},
+    {1, "onkeyup none"},
+    {1, "clock {moment}"},
+    {1, "region decimal {mark}"},
+    {1, "region thousands {mark}"},
+    {1, "region lastTwoDigitYear {number}"},
+    {1, "layout us"},
+    {1, "layout abnt2"},
+    {1, "capslock on"},
+    {1, "capslock off"},
+    {5, "fail {child}.{operation} {error}"},
+    {2, "fail UserControl.{surface} {error}"},
+    {1, "hook"},
+    {1, "unhook"},
+    {1, "message {message}"},
+    {1, "message other {message}"},
+    {1, "{text}"},
+};
+
+constexpr std::uint32_t kWeight = [] {
+  std::uint32_t sum = 0;
+  for (const Line& line : kLines) sum += line.weight;
+  return sum;
+}();
 
 struct Words {
   std::string_view name;
@@ -218,7 +219,9 @@ std::string Expand(std::string_view pattern, const Dice& dice) {
 }  // namespace
 
 std::string RandomLine(const Dice& dice) {
-  std::string line = Expand(kLines[dice(std::size(kLines))], dice);
+  const Line* chosen = kLines;
+  for (std::uint32_t roll = dice(kWeight); roll >= chosen->weight; ++chosen) roll -= chosen->weight;
+  std::string line = Expand(chosen->pattern, dice);
   if (dice(40) != 0 || line.empty()) return line;
   const std::uint32_t at = dice(static_cast<std::uint32_t>(line.size()));
   if (dice(2) == 0) return line.substr(0, at);

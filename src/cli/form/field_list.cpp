@@ -22,6 +22,7 @@ struct BuiltIn {
 
 constexpr const char* kFlat = R"({"Appearance": 0})";
 
+// In the order of a customer's record, not of the kinds: a form is read from top to bottom.
 constexpr BuiltIn kBuiltIn[] = {
     {"nome", u"Nome", gbNenhuma, "{}"},
     {"profissao", u"Profissão", gbLetra, "{}"},
@@ -50,10 +51,12 @@ constexpr BuiltIn kBuiltIn[] = {
     {"aniversario", u"Aniversário (dia/mês)", gbDefUsr, R"({"MaskText": "##/##"})"},
 };
 
+// As JSON, so that a line break in a name does not break the message in two.
 std::string Quoted(std::string_view text) {
   return Json(text).dump(-1, ' ', false, Json::error_handler_t::replace);
 }
 
+// A number as a name would be a different key in the output than in the input: "1" for 1.
 std::string TextOf(const Json& value, std::string_view key) {
   if (!value.is_string()) throw UsageError(std::string(key) + " takes a text");
   return value.get<std::string>();
@@ -86,6 +89,7 @@ void ReadMember(FieldSpec& field, const std::string& key, const Json& value) {
 FieldSpec ReadField(const Json& value, std::size_t position) {
   FieldSpec field;
   field.where = "field " + std::to_string(position);
+  // The name, or else the label, tells more than the position: the later of the two wins.
   if (value.is_object()) {
     for (const char* key : {"label", "name"}) {
       if (value.contains(key) && value[key].is_string()) {
@@ -108,6 +112,7 @@ FieldSpec ReadField(const Json& value, std::size_t position) {
 }
 
 // "line 3, column 7" of a place in a text, both counted from 1.
+// The parser counts bytes, which no editor shows.
 std::string PlaceOf(std::string_view text, std::size_t offset) {
   const std::string_view before = text.substr(0, offset);
   const auto line = 1 + std::count(before.begin(), before.end(), '\n');
@@ -141,6 +146,7 @@ std::vector<FieldSpec> ReadFieldList(std::string_view text) {
   const Json json = Parse(text);
   const Json* list = &json;
   if (json.is_object()) {
+    // A list under a misspelt key would else be an empty form.
     for (const auto& [key, value] : json.items()) {
       if (key != "fields") throw UsageError("unknown key " + Quoted(key) + "; the list stands under fields");
       list = &value;

@@ -9,6 +9,7 @@ namespace {
 // How the right end of an entry looks, and whether a line stands to its left.
 enum class Edge { kFlat, k3D, kArrow };
 
+// Downwards also for what is negative: the second box of an interval in a narrow field begins left of it.
 int Cells(float twips) { return static_cast<int>(std::floor(twips / kCell)); }
 
 // Columns [first, end) of a child, cut at the ends of its surface.
@@ -29,6 +30,7 @@ int FirstShown(int size, int start, int room) {
   return size <= room ? 0 : std::clamp(start - room / 2, 0, size - room);
 }
 
+// The first click brings the focus, which selects the whole text; a second one places the caret.
 template <class Widget>
 void ClickEntry(memory::Form& form, Widget& widget, int character) {
   if (!widget.CanTakeFocus()) return;
@@ -43,6 +45,8 @@ template <class Widget>
 void DrawEntry(Screen& screen, Point at, memory::Form& form, Widget& widget, Edge edge) {
   const Columns columns = ColumnsOf(widget.Bounds(), at.x);
   if (!widget.IsVisible() || columns.Width() < 1) return;
+  // Only the entry with the focus shows its selection: every box selects its text when the focus comes, and
+  // keeps that selection when it goes.
   const bool focused = form.Focused() == &widget;
   Style style{widget.Color(), kEntry};
   if (edge == Edge::kFlat) style.marks |= kFlatEdge;
@@ -51,6 +55,7 @@ void DrawEntry(Screen& screen, Point at, memory::Form& form, Widget& widget, Edg
   const std::u16string_view text = widget.Entry().Text();
   const int start = focused ? widget.Entry().SelStart() : 0;
   const int end = focused ? start + widget.Entry().SelLength() : 0;
+  // The last cell is the edge: a box of two digits is 310 twips, three cells, wide.
   const int room = std::max(columns.Width() - 1, 1);
   const int size = static_cast<int>(text.size());
   const int first = FirstShown(size, start, room);
@@ -65,16 +70,19 @@ void DrawEntry(Screen& screen, Point at, memory::Form& form, Widget& widget, Edg
     if (edge == Edge::k3D) grid.Put(columns.end - 1, at.y, U'│', {style.back, kPlain});
     if (edge == Edge::kArrow) grid.Put(columns.end - 1, at.y, U'▾', {kButtonFace, kStrong});
   }
+  // The edge in front stands on the blank that a separator ends with, " / ", and never on its text.
   const int left = columns.first - 1;
   if (edge == Edge::k3D && left >= 0 && left < grid.Width() && grid.At(left, at.y).glyph == U' ') {
     grid.Put(left, at.y, U'│', {grid.At(left, at.y).style.back, kPlain});
   }
+  // A selection that ends out of sight keeps the caret at the end of the box.
   if (focused) grid.caret = {columns.first + std::clamp(end - first, 0, columns.Width() - 1), at.y};
   screen.targets.push_back({columns.first, at.y, columns.Width(), [&form, &widget, first](int column) {
                               ClickEntry(form, widget, first + column);
                             }});
 }
 
+// The arrow at the end of a combo box opens and closes its list.
 void DrawCombo(Screen& screen, Point at, memory::Form& form, memory::ComboWidget& combo) {
   DrawEntry(screen, at, form, combo, Edge::kArrow);
   const Columns columns = ColumnsOf(combo.Bounds(), at.x);
@@ -86,6 +94,7 @@ void DrawCombo(Screen& screen, Point at, memory::Form& form, memory::ComboWidget
                             }});
 }
 
+// A caption narrower than its label is centred, as the hyphen of a postal code.
 void DrawSeparator(Grid& grid, Point at, const memory::LabelWidget& label) {
   const Columns columns = ColumnsOf(label.Bounds(), at.x);
   if (!label.IsVisible() || columns.Width() < 1) return;
@@ -129,6 +138,7 @@ void DrawList(Screen& screen, Point at, Rows rows, memory::ComboWidget& combo) {
 
   const Columns columns = ColumnsOf(combo.Bounds(), at.x);
   const int first = std::clamp(combo.Selected() - shown / 2, 0, count - shown);
+  // Of the entries on show alone: there can be thousands of others.
   std::size_t longest = 0;
   for (int i = 0; i < shown; ++i) {
     longest = std::max(longest, combo.Entries().At(static_cast<std::size_t>(first + i)).size());

@@ -23,7 +23,9 @@ The exit status is 0, 2 when there is no terminal or the list is wrong, and 128 
 that ended the form, with nothing printed. NO_COLOR is honoured.)";
 
 int RunForm(const std::string& fieldsFile) {
+  // The list is judged first: what is wrong with it is told with or without a terminal.
   FormModel model(fieldsFile.empty() ? BuiltInFields() : ReadFieldListFile(fieldsFile));
+  // The terminal is given back before anything is written to it.
   try {
     Terminal terminal;
     FormSession(model, terminal).Run();

@@ -43,8 +43,10 @@ FormModel::FormModel(std::vector<FieldSpec> fields) {
 
 void FormModel::SetUp(memory::Field& field, const FieldSpec& spec) {
   field.Create();
+  // The labels have the ambient colour from the start, the surface only after it has been told of a change.
   field->UserControl_AmbientChanged(u"BackColor");
   field.Parts().surface.Size(kFieldWidth * kCell, field.Parts().Combo1.LineHeight());
+  // As a field that comes out of a stored form has it.
   field->TrataEnterComoTab(true);
   // The kind takes its shape from words, pattern and length that are there.
   for (const auto& [name, value] : spec.set.items()) {
@@ -72,6 +74,7 @@ Json FormModel::Values() {
   memory::ScriptedDialogs& dialogs = form_.System().dialogs;
   dialogs.onMsgBox = nullptr;
   dialogs.onBeep = nullptr;
+  // Two fields that refuse their entries would else pull the focus to and fro between the reads.
   for (const Line& line : lines_) (*line.field)->Enabled(false);
   Json values = Json::object();
   for (const Line& line : lines_) {

@@ -14,6 +14,7 @@ namespace {
 // the handlers of the field, which skip an Erro only.
 struct LeftFromMessageBox {};
 
+// What was drawn last lies on top: the list over the fields that it covers.
 bool ClickTarget(const Screen& screen, Point at) {
   for (const Target& target : screen.targets | std::views::reverse) {
     if (!target.Holds(at)) continue;
@@ -34,6 +35,7 @@ FormSession::FormSession(FormModel& model, Display& display)
   model_.Leave().onClick = [this] { left_ = true; };
 }
 
+// The form lives on and is read at the end; nobody is there to answer it then.
 FormSession::~FormSession() {
   memory::ScriptedDialogs& dialogs = model_.Form().System().dialogs;
   dialogs.onMsgBox = nullptr;
@@ -53,6 +55,7 @@ void FormSession::Run() {
 }
 
 void FormSession::Handle(const Input& input) {
+  // An exit check that this input leads to fills in the present moment.
   model_.Form().System().clock.Set(LocalNow());
   try {
     Play(input);
@@ -79,6 +82,7 @@ void FormSession::Play(const Input& input) {
 void FormSession::Click(Point at) {
   // What lies under the pointer is what was shown last; nothing has changed since.
   if (ClickTarget(view_.Draw(display_.Width(), display_.Height()), at)) return;
+  // A click beside an open list closes it.
   if (memory::ComboWidget* combo = model_.FocusedCombo()) combo->DropDown(false);
 }
 
@@ -96,6 +100,7 @@ std::int32_t FormSession::Ask(std::u16string_view text, std::int32_t flags,
                               std::optional<std::u16string_view> title) {
   ++boxes_;
   MessageBox box(text, flags, title);
+  // Inside a handler of the field: the form is drawn as it stands half-way, and gets no input.
   while (!box.Answer()) {
     Screen screen = view_.Draw(display_.Width(), display_.Height());
     box.Draw(screen);

@@ -19,6 +19,7 @@ constexpr int kBodyBottom = 2;  // the tool tip and the help
 
 constexpr std::u32string_view kSair = U"[ Sair ]";
 
+// Labels give way before fields do: a field that is cut off hides what is typed.
 int LabelWidth(const FormModel& model, int width) {
   std::size_t longest = 0;
   for (const auto& line : model.Lines()) longest = std::max(longest, ToCells(line.spec.label).size());
@@ -58,6 +59,7 @@ Screen FormView::Draw(int width, int height) {
   const int focused = focused_line == count ? button : focused_line;
   const Rows rows{kBodyTop, height - kBodyBottom};
   const int visible = rows.end - rows.first;
+  // As few lines as it takes to show the focus, so that the form stands still while a person tabs along.
   top_ = std::clamp(top_, std::max(focused - visible + 1, 0), focused);
   top_ = std::clamp(top_, 0, std::max(button + 1 - visible, 0));
 
@@ -76,9 +78,11 @@ Screen FormView::Draw(int width, int height) {
       screen.targets.push_back({surface, row, static_cast<int>(kSair.size()), [this](int) { leave_(); }});
     }
   }
+  // There are more lines above or below.
   if (top_ > 0) grid.Put(1, rows.first, U'▲', {});
   if (top_ + visible <= button) grid.Put(1, rows.end - 1, U'▼', {});
 
+  // Last, over the lines that it covers.
   memory::ComboWidget* const combo = model_.FocusedCombo();
   if (combo != nullptr && combo->DroppedDown()) {
     DrawList(screen, {surface, rows.first + focused - top_}, rows, *combo);

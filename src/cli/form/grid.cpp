@@ -23,6 +23,7 @@ void Grid::Fill(int x, int y, int width, Style style) {
   for (int i = 0; i < width; ++i) Put(x + i, y, U' ', style);
 }
 
+// Through UTF-16, the one form that the conversions at the edge of the program know.
 std::string Grid::Row(int y) const {
   std::u16string row;
   for (int x = 0; x < width_; ++x) {
@@ -42,6 +43,7 @@ std::u32string ToCells(std::u16string_view text) {
   std::u32string cells;
   for (std::size_t i = 0; i < text.size(); ++i) {
     const char32_t unit = text[i];
+    // A text of the field may end in the middle of a pair: its limits count units.
     const bool pair = unit >= 0xD800 && unit < 0xDC00 && i + 1 < text.size() && text[i + 1] >= 0xDC00 &&
                       text[i + 1] < 0xE000;
     cells.push_back(pair ? 0x10000 + ((unit - 0xD800) << 10) + (text[++i] - 0xDC00U) : unit);

@@ -17,6 +17,7 @@ constexpr std::int16_t kVkLeft = 37, kVkUp = 38, kVkRight = 39, kVkDown = 40;
 
 MessageBox::MessageBox(std::u16string_view text, std::int32_t flags, std::optional<std::u16string_view> title)
     : title_(ToCells(title.value_or(u"Gabarito"))), text_(ToCells(text)) {
+  // The buttons in the order of the platform, so that Escape is the last one.
   if ((flags & kYesNo) != 0) {
     buttons_ = {{U"[ Sim ]", kAnswerYes}, {U"[ Não ]", kAnswerNo}};
     chosen_ = (flags & kSecondButton) != 0 ? 1 : 0;
@@ -65,6 +66,7 @@ void MessageBox::Draw(Screen& screen) {
   const int width = static_cast<int>(std::max(inner, captions)) + 2 * kMargin + 2;
   const int height = static_cast<int>(lines.size()) + 5;  // frame, a row around the text, the buttons
   const int x = std::max((grid.Width() - width) / 2, 0);
+  // Half of what is missing would cut the buttons off; all of it is taken from the top.
   const int y = std::min((grid.Height() - height) / 2, grid.Height() - height);
 
   const Style style{kWindowBackground}, frame{kWindowBackground, kStrong};
@@ -80,6 +82,7 @@ void MessageBox::Draw(Screen& screen) {
   int row = y + 2;
   for (const std::u32string& line : lines) grid.Put(x + 1 + kMargin, row++, line, style);
 
+  // The form below takes no clicks while the box is open.
   screen.targets.clear();
   int column = x + (width - static_cast<int>(captions)) / 2 + 1;
   for (std::size_t i = 0; i < buttons_.size(); ++i) {
@@ -102,6 +105,7 @@ std::vector<std::u32string> Wrapped(std::u32string_view text, int width) {
     std::u32string_view line = text.substr(0, line_break);
     if (!line.empty() && line.back() == U'\r') line.remove_suffix(1);
     while (line.size() > most) {
+      // A blank right behind the last cell ends the line too, and is not carried over.
       const std::size_t blank = line.rfind(U' ', most);
       const std::size_t cut = blank == line.npos || blank == 0 ? most : blank;
       lines.emplace_back(line.substr(0, cut));

@@ -12,6 +12,7 @@ struct Shade {
 
 constexpr Color kSystemColor = 0x80000000;
 
+// System colours that nothing here uses count as white.
 Shade ShadeOf(Color color) {
   if (color == kButtonFace) return {208, 208, 208};
   if (color == kWindowText) return {0, 0, 0};
@@ -56,6 +57,7 @@ int TerminalColor(Color color, int colors) {
   const Shade shade = ShadeOf(color);
   if (colors >= 256) return Of256(shade);
   if (colors >= 16) {
+    // The face of buttons is the plain white of such terminals, a light grey; only the window is brighter.
     const bool bright = std::max({shade.red, shade.green, shade.blue}) >= 224;
     return Of8(shade) + (bright ? 8 : 0);
   }
@@ -63,6 +65,7 @@ int TerminalColor(Color color, int colors) {
   return color == kWindowBackground ? kCyan : Of8(shade);
 }
 
+// Green weighs most to the eye, blue least.
 bool IsDark(Color color) {
   const Shade shade = ShadeOf(color);
   return shade.red * 3 + shade.green * 6 + shade.blue < 1100;

@@ -10,6 +10,7 @@ namespace {
 
 constexpr int kHandled[] = {SIGINT, SIGTERM, SIGHUP, SIGQUIT, SIGTSTP, SIGCONT, SIGWINCH};
 
+// One set for the process, as signals are.
 volatile std::sig_atomic_t g_pending[std::size(kHandled)];
 
 void Remember(int signal) {
@@ -44,6 +45,7 @@ Signals::Signals() {
   for (const int signal : kHandled) {
     struct sigaction action;
     sigaction(signal, nullptr, &action);
+    // nohup and shells that start a program in the background have it ignore some.
     if (action.sa_handler != SIG_IGN) former_.push_back({signal, action});
   }
   Install();
@@ -62,6 +64,8 @@ void Signals::Install() {
 }
 
 Signals::Event Signals::Wait(int descriptor) {
+  // A signal between a check of the flags and a plain poll would wait for the next key; ppoll lets signals in
+  // and waits in one step.
   sigset_t open = former_mask_;
   for (const Former& former : former_) sigdelset(&open, former.signal);
   pollfd input{.fd = descriptor, .events = POLLIN, .revents = 0};

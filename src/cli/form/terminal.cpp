@@ -52,6 +52,7 @@ void CheckTerminalType(int descriptor) {
                      (type.empty() ? "not set" : "dumb"));
   }
   int known = 0;
+  // newterm would say that it failed, not why.
   const bool found = setupterm(nullptr, descriptor, &known) == OK;
   const bool places = found && cursor_address != nullptr;
   if (found) del_curterm(cur_term);
@@ -65,11 +66,12 @@ void CheckTerminalType(int descriptor) {
 Terminal::Terminal() : out_(OpenScreen()) {
   CheckTerminalType(fileno(out_.get()));
   UseUtf8();
+  // The size of the window counts, not the LINES and COLUMNS that a shell may have exported.
   use_env(TRUE);
   use_tioctl(TRUE);
   screen_ = newterm(nullptr, out_.get(), stdin);
   if (screen_ == nullptr) throw UsageError("form: the terminal cannot be set up");
-  signals_.Install();
+  signals_.Install();  // ncurses has put its own in: they would end the program from inside a handler
   SetUpKeys();
   SetUpColors();
 }
@@ -83,12 +85,12 @@ Terminal::~Terminal() {
 void Terminal::SetUpKeys() {
   raw();
   noecho();
-  nonl();
+  nonl();  // Enter is 13, and Ctrl+J the line feed that a paste ends its lines with
   set_escdelay(kRestOfKey);
   keypad(stdscr, TRUE);
   timeout(kRestOfKey);
   DefineKeys();
-  mouseinterval(0);
+  mouseinterval(0);  // a press counts at once, without waiting for the click that it may become
   mousemask(BUTTON1_PRESSED | BUTTON1_CLICKED, nullptr);
 }
 
@@ -102,6 +104,7 @@ int Terminal::Height() const { return getmaxy(stdscr); }
 
 int Terminal::PairOf(int fore, int back) {
   const auto [place, added] = pairs_.try_emplace({fore, back}, static_cast<int>(pairs_.size()) + 1);
+  // A terminal of eight colours has 64 pairs; what comes after them is drawn in its own colours.
   if (added && (place->second >= COLOR_PAIRS || init_extended_pair(place->second, fore, back) != OK)) {
     place->second = 0;
   }
@@ -114,6 +117,7 @@ std::pair<unsigned, int> Terminal::AttributesOf(const Style& style) {
   if (colors_ == 0) {
     if ((style.marks & kEntry) != 0) attributes |= A_UNDERLINE;
     if ((style.marks & (kActive | kStrong)) != 0) attributes |= A_BOLD;
+    // Title and help are dark bars.
     if (IsDark(style.back)) attributes ^= A_REVERSE;
     return {attributes, 0};
   }
@@ -137,6 +141,7 @@ void Terminal::Show(const Screen& screen) {
       mvadd_wch(y, x, &shown);
     }
   }
+  // Some terminals cannot hide their cursor: it stays where the drawing ended then.
   curs_set(grid.caret ? 1 : 0);
   if (grid.caret) move(grid.caret->y, grid.caret->x);
   refresh();
@@ -154,6 +159,7 @@ Input Terminal::Next() {
       if (input) return *input;
       continue;
     }
+    // Nothing is left in the queue of ncurses, so there is nothing that waiting could overlook.
     const Signals::Event event = signals_.Wait(STDIN_FILENO);
     if (event.closed) throw Interrupted{SIGHUP};
     switch (event.signal) {
@@ -180,6 +186,7 @@ void Terminal::Suspend() {
 }
 
 void Terminal::FitWindow() {
+  // Whoever continued the program may have left the terminal in another mode.
   reset_prog_mode();
   winsize size{};
   if (ioctl(fileno(out_.get()), TIOCGWINSZ, &size) == 0 && size.ws_row > 0 && size.ws_col > 0) {

@@ -22,6 +22,7 @@ struct Sequence {
   int code;
 };
 
+// What common terminals send with cursor keys in either mode, and what vt100 and screen do not describe.
 constexpr Sequence kSequences[] = {
     {"\033[A", KEY_UP},       {"\033[B", KEY_DOWN},      {"\033[C", KEY_RIGHT},    {"\033[D", KEY_LEFT},
     {"\033[H", KEY_HOME},     {"\033[F", KEY_END},       {"\033OH", KEY_HOME},     {"\033OF", KEY_END},
@@ -72,6 +73,7 @@ Input KeyInput(std::int16_t vk, std::int16_t shift = 0) {
 
 void DefineKeys() {
   for (const Sequence& sequence : kSequences) {
+    // The description of the terminal knows better where it has the sequence for another key.
     if (key_defined(sequence.text) <= 0) define_key(sequence.text, sequence.code);
   }
 }
@@ -83,6 +85,7 @@ std::optional<Input> InputOfKey(int code) {
     input.kind = Input::Kind::kLeave;
     return input;
   }
+  // A release comes as an event of its own, and is none for the form.
   if (code == KEY_MOUSE) {
     MEVENT event;
     if (getmouse(&event) != OK || (event.bstate & (BUTTON1_PRESSED | BUTTON1_CLICKED)) == 0) return {};
@@ -102,6 +105,7 @@ std::optional<Input> InputOfCharacter(char32_t character) {
       return {};
     case kCtrlQ:
       return Input{.kind = Input::Kind::kLeave};
+    // Terminals disagree on which of the two Backspace sends.
     case U'\b':
     case kDel:
       return KeyInput(kVkBack);

@@ -31,7 +31,11 @@ bool EditLine::Replace(std::u16string_view text, std::int32_t limit) {
     text = text.substr(0, static_cast<std::size_t>(room));
     if (text.empty()) return false;
   }
-  text_.replace(static_cast<std::size_t>(start_), static_cast<std::size_t>(length_), text);
+  if (start_ == Size()) {
+    text_.append(text);  // the usual case: a person types on
+  } else {
+    text_.replace(static_cast<std::size_t>(start_), static_cast<std::size_t>(length_), text);
+  }
   start_ += static_cast<std::int32_t>(text.size());
   length_ = 0;
   return true;

@@ -45,6 +45,7 @@ class EditLine {
 template <class Line>
 bool Navigate(Line& line, std::int32_t& anchor, std::int16_t vk, bool shift) {
   constexpr std::int16_t kEnd = 35, kHome = 36, kLeft = 37, kUp = 38, kRight = 39, kDown = 40;
+  if (vk < kEnd || vk > kDown) return false;
   const std::int32_t start = line.SelStart();
   const std::int32_t end = start + line.SelLength();
   const auto size = static_cast<std::int32_t>(line.Text().size());

@@ -20,11 +20,14 @@
 namespace gabarito::cli {
 namespace {
 
+// Said by the program, not by the field, which is silent when it loads 31/02/2024 as three empty boxes.
 constexpr std::u16string_view kNotTaken = u"Valor não aceito pela máscara.";
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 constexpr std::string_view kReplacement = "\xEF\xBF\xBD";
 
-// Keeps the texts of the message boxes of one line.
+// Keeps the texts of the message boxes of one line. Several boxes of one line stand in its last column
+// together: the load and the check of 40,000 digits could each tell of their own. The buffer is kept, so a
+// file of refusals allocates no more than a file of good values.
 class Messages final : public memory::Recorder {
  public:
   void MsgBox(std::u16string_view text, std::int32_t, std::optional<std::u16string_view>,
@@ -56,6 +59,7 @@ void AppendColumn(std::string_view text, std::string& out) {
 
 bool IsBlank(std::string_view line) { return line.find_first_not_of(" \t") == std::string_view::npos; }
 
+// A surrogate counts half of the four bytes that its pair takes.
 std::size_t Utf8Length(std::u16string_view text) {
   std::size_t length = 0;
   for (const char16_t c : text) {
@@ -88,11 +92,11 @@ class LineCheck {
     form_.System().clock.Set(LocalNow());
     field_.Create();
     Apply(options, *field_);
+    // A box can hold something even so: the masked one its template, a card number the blanks of its groups.
     field_->Text({});
     const Texts shown = Shown();
     std::copy(shown.begin(), shown.end(), shown_when_empty_.begin());
   }
-  ~LineCheck() { form_.System().recorder = nullptr; }
 
   // Appends the output line of `line`.
   void Check(std::string_view line, std::string& out) {
@@ -108,6 +112,7 @@ class LineCheck {
     out.push_back('\t');
     messages_.Forget();
     field_->Text(text_);
+    // Asked between load and check, since the check fills boxes by itself: today under gbDataAtual.
     const bool loaded = !ShowsNothing();
     const std::u16string value = field_->Text();
     if (messages_.Joined().empty()) {
@@ -147,6 +152,7 @@ class LineCheck {
     AppendColumn(column_, out);
   }
 
+  // In front of the form, which keeps a pointer to it.
   Messages messages_;
   memory::Form form_;
   memory::Field& field_;
@@ -191,6 +197,7 @@ int RunBatch(const BatchOptions& options, int in, int out) {
   OutputBuffer output(out);
   ProgressBar bar(input.Descriptor());
 
+  // The bar shares the terminal with the lines when nothing is redirected.
   const auto flush = [&] {
     bar.Hide();
     output.Flush();

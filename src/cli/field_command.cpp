@@ -29,6 +29,7 @@ class BoxesAsLines final : public memory::Recorder {
   void MsgBox(std::u16string_view text, std::int32_t, std::optional<std::u16string_view> title,
               std::int32_t) override {
     std::u16string line;
+    // A box without a title shows the name of the program that it comes from.
     AppendOnOneLine(title.value_or(u"Gabarito"), line);
     line.append(u": ");
     AppendOnOneLine(text, line);
@@ -63,9 +64,11 @@ int RunField(const FieldCommandOptions& options, std::ostream& out, std::ostream
   Apply(options.field, *field);
 
   if (options.text) field->Text(text);
+  // By way of the surface, as a host gives the focus: the field picks the child that is on show.
   form.SetFocus(*field.Surface());
   SendKeyString(form.AllWindows(), system.kernel, system.dialogs, keys, true);
   form.Run();
+  // Raises the check. A refusal takes the focus back into the field, which changes nothing for what follows.
   form.SetFocus(behind);
   out << ToUtf8(field->Text()) << '\n';
   system.recorder = nullptr;

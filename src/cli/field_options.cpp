@@ -11,6 +11,7 @@ struct Setting {
   std::string_view name;
   std::string_view value;
 
+  // Mask fills the list and gives Text its meaning: before it an index selects in the list of another kind.
   bool NeedsLayout() const { return name == "ComboListIndex" || name == "Text"; }
 };
 
@@ -25,6 +26,7 @@ Setting Split(std::string_view setting) {
 }  // namespace
 
 void Apply(const FieldOptions& options, Gabarito& field) {
+  // The kind and the shape of each setting first: a fault in them is told before anything is set.
   const std::int32_t mask = MaskFromText(options.mask);
   std::vector<Setting> settings;
   for (const std::string& set : options.sets) settings.push_back(Split(set));

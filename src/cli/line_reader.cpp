@@ -11,8 +11,10 @@
 namespace gabarito::cli {
 namespace {
 
+// Large enough that a call of the system costs nothing beside the lines in it, small enough for the cache.
 constexpr std::size_t kBlock = std::size_t{1} << 17;
 
+// One alone: "12\r\r\n" keeps its first, which is part of the value.
 std::string_view WithoutCarriageReturn(std::string_view line) {
   if (line.ends_with('\r')) line.remove_suffix(1);
   return line;
@@ -27,6 +29,7 @@ bool LineReader::Next(std::string_view& line) {
   const char* const found =
       static_cast<const char*>(std::memchr(buffer_.data() + scanned_, '\n', end_ - scanned_));
   if (found == nullptr) {
+    // Without this a line of 10 MB would be searched from its start at each block.
     scanned_ = end_;
     return false;
   }
@@ -37,6 +40,7 @@ bool LineReader::Next(std::string_view& line) {
 }
 
 bool LineReader::Fill() {
+  // The line that the block cut moves to the front. Lines are short, so little moves.
   if (begin_ > 0) {
     std::copy(buffer_.begin() + static_cast<std::ptrdiff_t>(begin_),
               buffer_.begin() + static_cast<std::ptrdiff_t>(end_), buffer_.begin());

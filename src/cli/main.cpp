@@ -42,6 +42,7 @@ std::string PropertyList() {
          "MaxLength\nare in place when the kind takes its shape; ComboListIndex and Text come behind Mask.";
 }
 
+// A value belongs to one --set alone: the parser would otherwise take FILE for one more of its values.
 void AddFieldOptions(CLI::App& command, FieldOptions& options) {
   command.add_option("-m,--mask", options.mask, "Kind: a name that 'gabarito masks' lists, or a number")
       ->required()
@@ -54,6 +55,7 @@ void AddFieldOptions(CLI::App& command, FieldOptions& options) {
 
 // Standard output is written to the end, or the command has failed.
 void Finish(std::ostream& out) {
+  // A stream keeps no reason; the failed call has left it in errno.
   errno = 0;
   out.flush();
   if (!out) {
@@ -82,6 +84,7 @@ int RunScriptFile(const std::string& file) {
   if (file.empty() || file == "-") return RunScript(std::cin, std::cout, std::cerr);
   errno = 0;
   std::ifstream in(file);
+  // A directory opens as a file and then reads as an empty one.
   if (in && std::filesystem::is_directory(file)) errno = EISDIR;
   if (errno != 0) throw std::system_error(errno, std::generic_category(), "cannot open " + file);
   return RunScript(in, std::cout, std::cerr);
@@ -182,7 +185,7 @@ int main(int argc, char** argv) {
     return Fail(error.what());
   } catch (const std::system_error& error) {
     return error.code() == std::errc::broken_pipe ? kFailed : Fail(error.what());
-  } catch (const gabarito::Erro& error) {
+  } catch (const gabarito::Erro& error) {  // a setter that fails by design: MaxLength -32768
     return Fail("run-time error " + std::to_string(error.Number()) + ": " + ToUtf8(error.Description()));
   } catch (const std::exception& error) {
     return Fail(error.what());

@@ -10,6 +10,7 @@
 namespace gabarito::cli {
 namespace {
 
+// English words for the program; the table itself speaks the language of the field.
 std::string_view NameOf(TipoDeMembro tipo) {
   switch (tipo) {
     case TipoDeMembro::kMetodo:
@@ -29,6 +30,7 @@ void WriteJson(std::ostream& out) {
   for (const Especie& kind : Especies()) {
     kinds.push_back({{"name", kind.nome}, {"number", kind.valor}, {"takes", kind.toma}});
   }
+  // In the published order, which hosts that list properties keep.
   Json members = Json::array();
   for (const Membro& member : MembrosDaInterface()) {
     members.push_back({{"name", member.nome}, {"is", NameOf(member.tipo)}});
@@ -40,6 +42,7 @@ void WriteJson(std::ostream& out) {
 }
 
 void WriteText(std::ostream& out) {
+  // Columns, so that a person reads it as a table and a script by its blanks.
   std::size_t widest = 0;
   for (const Especie& kind : Especies()) widest = std::max(widest, kind.nome.size());
   for (const Especie& kind : Especies()) {

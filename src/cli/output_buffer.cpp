@@ -11,6 +11,7 @@ void OutputBuffer::Flush() {
   std::size_t written = 0;
   while (written < text_.size()) {
     const ssize_t n = ::write(descriptor_, text_.data() + written, text_.size() - written);
+    // A pipe may take less than it is given.
     if (n >= 0) {
       written += static_cast<std::size_t>(n);
     } else if (errno != EINTR) {

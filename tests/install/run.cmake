@@ -1,0 +1,66 @@
+# cmake -D WAY=installed|subproject -D BUILD=... -D SOURCES=... -D WORK=... -P run.cmake
+#
+# Builds the outside project in WORK in one of the two ways and compares what it prints.
+set(expected "111.444.777-35\n")
+
+# Runs a command; its output goes to `output`.
+function(run)
+  execute_process(COMMAND ${ARGN} RESULT_VARIABLE status OUTPUT_VARIABLE text ERROR_VARIABLE text)
+  if(NOT status EQUAL 0)
+    list(JOIN ARGN " " command)
+    message(FATAL_ERROR "${command}\n${text}")
+  endif()
+  set(output "${text}" PARENT_SCOPE)
+endfunction()
+
+function(compare name)
+  if(NOT output STREQUAL expected)
+    message(FATAL_ERROR "${name} gives '${output}' for '${expected}'")
+  endif()
+endfunction()
+
+file(REMOVE_RECURSE ${WORK})
+set(options -G ${GENERATOR} -D CMAKE_CXX_COMPILER=${COMPILER} -D "CMAKE_CXX_FLAGS=${FLAGS}")
+if(WAY STREQUAL "installed")
+  set(prefix ${WORK}/prefix)
+  run(${CMAKE_COMMAND} --install ${BUILD} --prefix ${prefix})
+  list(APPEND options -D CMAKE_PREFIX_PATH=${prefix})
+else()
+  list(APPEND options -D GABARITO_SOURCES=${SOURCES})
+endif()
+run(${CMAKE_COMMAND} -S ${CMAKE_CURRENT_LIST_DIR}/project -B ${WORK}/build ${options})
+run(${CMAKE_COMMAND} --build ${WORK}/build --target outside --parallel 2)
+run(${WORK}/build/outside)
+compare("the outside project")
+if(WAY STREQUAL "subproject")
+  return()
+endif()
+
+# The program, its completion and its manual page.
+run(${prefix}/bin/gabarito field --mask gbCPF --text 11144477735)
+compare("the program")
+foreach(file share/man/man1/gabarito.1 share/bash-completion/completions/gabarito)
+  if(NOT EXISTS ${prefix}/${file})
+    message(FATAL_ERROR "${file} is not installed")
+  endif()
+endforeach()
+set(expected "gbCPF\n")
+run(bash -c "source ${prefix}/share/bash-completion/completions/gabarito
+COMP_WORDS=(gabarito field --mask gbCP) COMP_CWORD=3
+_gabarito ${prefix}/bin/gabarito gbCP --mask
+echo \${COMPREPLY[@]}")
+compare("the completion")
+
+# The same field without CMake: compiler and pkg-config.
+find_program(pkg_config pkg-config)
+if(pkg_config)
+  file(WRITE ${WORK}/rules.cpp "#include <gabarito/gabarito.h>\n#include <gabarito/control/especie.h>\n"
+       "int main() { return gabarito::EspecieDe(240).nome == \"gbCPF\" ? 0 : 1; }\n")
+  file(GLOB_RECURSE pc ${prefix}/gabarito.pc)
+  cmake_path(GET pc PARENT_PATH pc_dir)
+  set(ENV{PKG_CONFIG_PATH} ${pc_dir})
+  run(${pkg_config} --cflags --libs gabarito)
+  separate_arguments(flags UNIX_COMMAND "${FLAGS} ${output}")
+  run(${COMPILER} -std=c++20 ${WORK}/rules.cpp ${flags} -o ${WORK}/rules)
+  run(${WORK}/rules)
+endif()

@@ -87,6 +87,8 @@ Focusable* Form::NextStop(bool backwards) {
 }
 
 void Form::Settle() {
+  if (!unsettled_) return;
+  unsettled_ = false;
   if (focused_ == nullptr || focused_->CanTakeFocus()) return;
   Focusable* const surface = focused_->Owner().Surface();
   if (surface != nullptr && surface->CanTakeFocus()) SetFocus(*surface);

@@ -57,6 +57,9 @@ class Form {
   // Gives the focus of a part that cannot keep it to the surface of its control; see UserControl::Settle.
   void Settle();
 
+  // A part has been hidden or disabled: the next Settle has something to look at.
+  void Unsettle() { unsettled_ = true; }
+
   // The control is about to go: the focus leaves it without an event.
   void Forget(Control& control);
 
@@ -86,6 +89,7 @@ class Form {
   Focusable* focused_ = nullptr;
   bool entered_ = false;     // GotFocus of what has the focus has been raised
   std::uint64_t moves_ = 0;  // counts moves of the focus, to notice one that happened inside a handler
+  bool unsettled_ = false;
   bool running_ = false;
   std::vector<Focusable*> stops_;  // room for the tab stops, so that a Tab allocates nothing
 };

@@ -38,6 +38,7 @@ class Widget : public Interface {
   void Visible(bool visible) override {
     Use("Visible");
     visible_ = visible;
+    if (!visible) form_.Unsettle();
   }
   void BackColor(gabarito::Color color) override {
     Use("BackColor");
@@ -106,6 +107,7 @@ class InputWidget : public Widget<Interface>, public Focusable {
   void Enabled(bool enabled) override {
     this->Use("Enabled");
     enabled_ = enabled;
+    if (!enabled) this->form_.Unsettle();
   }
   void SetFocus() override {
     this->Use("SetFocus");

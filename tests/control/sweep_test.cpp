@@ -197,6 +197,7 @@ TEST(Sweep, ASetterGoesOn) {
   Varre({.nome = "AmbientChanged", .prepara = kNada, .roda = [](Cena& c) {
            c.campo->UserControl_AmbientChanged(u"BackColor");
          }});
+  Varre({.nome = "Sobre", .prepara = kNada, .roda = [](Cena& c) { c.campo->Sobre(); }});
   Varre({.nome = "ApagaCampos", .prepara = kNada, .roda = [](Cena& c) { c.campo->ApagaCampos(); }});
 }
 
@@ -220,6 +221,7 @@ TEST(Sweep, AKeyGoesOn) {
     std::int16_t codigo;
     Passo prepara;
     std::string sem_texto = {};  // what follows when the box does not give its text: no limit is asked for
+    std::int16_t caixa = 0;
   };
   const Tecla teclas[] = {
       {"letter", 'a', Como(gbNenhuma), "E0.Text t0.Text="},
@@ -228,6 +230,7 @@ TEST(Sweep, AKeyGoesOn) {
       {"refused letter", 'x', Como(gbData), "Host.Beep= E0.Text t0.Text="},
       {"jump", '-', Como(gbCEP), "foco1 Host.KeyUp= E0.Text t0.Text="},
       {"jump without a box", '-', Como(gbCPF), "E1.SetFocus= Host.KeyUp= E0.Text t0.Text="},
+      {"jump out of the second box", '-', Como(gbCEP), "E2.SetFocus= Host.KeyUp= E1.Text t1.Text=", 1},
       {"Backspace at the start", 8, Como(gbData)},
       {"Enter", 13, [](Cena& c) { c.campo->TrataEnterComoTab(true); }},
   };
@@ -237,7 +240,7 @@ TEST(Sweep, AKeyGoesOn) {
               .roda =
                   [&](Cena& c) {
                     std::int16_t codigo = tecla.codigo;
-                    c.campo->txt_entrada3D_KeyPress(0, codigo);
+                    c.campo->txt_entrada3D_KeyPress(tecla.caixa, codigo);
                   },
               .depois = 2};
     if (!tecla.sem_texto.empty()) caso.desvios = {{3, tecla.sem_texto}};

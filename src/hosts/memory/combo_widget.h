@@ -10,8 +10,8 @@
 namespace gabarito::memory {
 
 // Beside the events that combo_box.h tells: the arrows up and down and Page Up and Page Down choose another
-// entry, which raises Click; F4 and Alt with an arrow open and close the list. An edit that leaves another text
-// than that of the selected entry leaves no entry selected, without a Click.
+// entry, which raises Click; F4 and Alt with an arrow open and close the list. An edit that leaves another
+// text than that of the selected entry leaves no entry selected, without a Click.
 class ComboWidget final : public InputWidget<ComboBox, EditLine> {
  public:
   ComboWidget(Field& field, Form& form, Control& owner, const ChildDesign& design);

@@ -14,12 +14,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   };
   Attack attack;
   std::string script;
-  for (std::string line = "new"; used < size; line = RandomLine(dice)) {
+  std::string line = "new";
+  while (used < size) {
     script += line + '\n';
     if (const std::string fault = attack.Run(line); !fault.empty()) {
       std::fprintf(stderr, "%s\nafter\n%s", fault.c_str(), script.c_str());
       std::abort();
     }
+    line = RandomLine(dice);
   }
   return 0;
 }

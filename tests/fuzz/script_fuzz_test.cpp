@@ -7,7 +7,7 @@
 namespace gabarito::cli {
 namespace {
 
-constexpr std::uint32_t kRounds = 300;
+constexpr std::uint32_t kRounds = 600;
 constexpr int kLinesARound = 60;
 
 TEST(ScriptFuzz, NoLineBreaksTheField) {

@@ -24,6 +24,9 @@ inline void RefuseNegative(float length) {
 template <class Interface>
 class Widget : public Interface {
  public:
+  using Interface::BackColor;
+  using Interface::Visible;
+
   Widget(Field& field, Form& form, const ChildDesign& design)
       : field_(field), form_(form), design_(design), bounds_(design.geometry), color_(design.backColor) {}
 
@@ -75,6 +78,8 @@ class Widget : public Interface {
 template <class Interface, class Line>
 class InputWidget : public Widget<Interface>, public Focusable {
  public:
+  using Interface::Enabled;
+
   InputWidget(Field& field, Form& form, Control& owner, const ChildDesign& design)
       : Widget<Interface>(field, form, design), owner_(owner) {
     line_.Text(design.text);

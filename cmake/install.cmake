@@ -11,6 +11,11 @@ function(install_component name)
   list(TRANSFORM ARGN PREPEND gabarito_ OUTPUT_VARIABLE targets)
   foreach(target IN LISTS ARGN)
     set_target_properties(gabarito_${target} PROPERTIES EXPORT_NAME ${target})
+    get_target_property(type gabarito_${target} TYPE)
+    # What is optimised at link time here has to link elsewhere too, with another compiler.
+    if(type STREQUAL "STATIC_LIBRARY" AND CMAKE_INTERPROCEDURAL_OPTIMIZATION AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+      target_compile_options(gabarito_${target} PRIVATE -ffat-lto-objects)
+    endif()
   endforeach()
   install(TARGETS ${targets} EXPORT Gabarito-${name}
           ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR}

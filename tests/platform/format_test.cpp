@@ -21,7 +21,8 @@ TEST(FormatNumber, FillsWithZerosOrGroupsByThousands) {
       {format(5, u"00"), u"05"}, {format(123, u"00"), u"123"}, {format(2.5, u"00"), u"03"},
       {format(-2.5, u"00"), u"-03"}, {format(-0.4, u"00"), u"00"}, {format(0.4, u"#,#"), u""},
       {format(999, u"#,#"), u"999"}, {format(-1e3, u"#,#"), u"-1.000"},
-      {format(250, u"0000000000"), u"0000000250"}, {format(12345678901234567, u"#,#"), u"12.345.678.901.234.600"}});
+      {format(250, u"0000000000"), u"0000000250"},
+      {format(12345678901234567, u"#,#"), u"12.345.678.901.234.600"}});
 }
 
 TEST(FormatNumber, ReadsATextOrGivesItBackUnchanged) {

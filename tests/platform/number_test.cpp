@@ -38,11 +38,11 @@ std::u16string Printed(const char* format, double value) {
 // clang-format off
 TEST(Val, ReadsTheLongestNumericPrefix) {
   const NumberRow rows[] = {
-      {u"123", 123}, {u" 1 2\t3\n", 123}, {u"12abc", 12}, {u"1.5.2", 1.5}, {u"1,5", 1}, {u".5", .5}, {u"-.5", -.5},
-      {u"+ 7", 7}, {u"1e5", 1e5}, {u"1d5", 1e5}, {u"1E-2x", .01}, {u"1e", 1}, {u"1e+", 1}, {u"1 e 2", 100}, {u"5.", 5},
-      {u"&HFF", 255}, {u"&hFFFF", -1}, {u"&H10000", 65536}, {u"&O17", 15}, {u"&17", 15}, {u"& H 1 F", 31},
-      {u"007", 7}, {u"1\u00A02", 1}, {View(u"1\0002", 3), 1}, {u"&HFFFFFFFF", -1}, {u"&H123456789", 0x12345678},
-      {u"-1e99999999999999999999", -Limits::max()}};
+      {u"123", 123}, {u" 1 2\t3\n", 123}, {u"12abc", 12}, {u"1.5.2", 1.5}, {u"1,5", 1}, {u".5", .5},
+      {u"-.5", -.5}, {u"+ 7", 7}, {u"1e5", 1e5}, {u"1d5", 1e5}, {u"1E-2x", .01}, {u"1e", 1}, {u"1e+", 1},
+      {u"1 e 2", 100}, {u"5.", 5}, {u"&HFF", 255}, {u"&hFFFF", -1}, {u"&H10000", 65536}, {u"&O17", 15},
+      {u"&17", 15}, {u"& H 1 F", 31}, {u"007", 7}, {u"1\u00A02", 1}, {View(u"1\0002", 3), 1},
+      {u"&HFFFFFFFF", -1}, {u"&H123456789", 0x12345678}, {u"-1e99999999999999999999", -Limits::max()}};
   for (const auto& [text, value] : rows) EXPECT_EQ(Val(text), value) << testing::PrintToString(text);
 }
 
@@ -71,8 +71,8 @@ TEST(Val, RoundsOnceHoweverManyDigitsThereAre) {
 TEST(ToDouble, ReadsANumberAsTheRegionWritesIt) {
   const NumberRow rows[] = {
       {u"1.234,5", 1234.5}, {u"R$ 5", 5}, {u"5 R$", 5}, {u"-R$ 5,5", -5.5}, {u"R$-5", -5}, {u"(5)", -5},
-      {u" ( R$ 5 ) ", -5}, {u"-5", -5}, {u"5-", -5}, {u"+5", 5}, {u"1E5", 1e5}, {u"1,5d-1", .15}, {u"&HFF", 255},
-      {u" &O17 ", 15}, {u",5", .5}, {u"5,", 5}, {u"1.2.3", 123}, {u"1.", 1}, {u"-0", 0},
+      {u" ( R$ 5 ) ", -5}, {u"-5", -5}, {u"5-", -5}, {u"+5", 5}, {u"1E5", 1e5}, {u"1,5d-1", .15},
+      {u"&HFF", 255}, {u" &O17 ", 15}, {u",5", .5}, {u"5,", 5}, {u"1.2.3", 123}, {u"1.", 1}, {u"-0", 0},
       {u"1234567890123456789012345", 1234567890123456789012345.0}};
   for (const auto& [text, value] : rows) {
     EXPECT_TRUE(IsNumeric(text, kBrazil)) << testing::PrintToString(text);
@@ -82,8 +82,9 @@ TEST(ToDouble, ReadsANumberAsTheRegionWritesIt) {
 
 TEST(ToDouble, RefusesWhatIsNoNumber) {
   for (const View text : std::initializer_list<View>{
-      u"", u" ", u"1,2,3", u"--1", u"5 5", u"-5-", u"(5", u"5)", u"(-5)", u"((5))", u".5", u",", u"-", u"R$", u"1E",
-      u"R$ 5 R$", u"1,2.3", u"5a", u"&H", u"-&HFF", u"&H1G", u"1 E5", u"&H123456789", u"\u00A05", {u"5\0", 2}}) {
+      u"", u" ", u"1,2,3", u"--1", u"5 5", u"-5-", u"(5", u"5)", u"(-5)", u"((5))", u".5", u",", u"-", u"R$",
+      u"1E", u"R$ 5 R$", u"1,2.3", u"5a", u"&H", u"-&HFF", u"&H1G", u"1 E5", u"&H123456789", u"\u00A05",
+      {u"5\0", 2}}) {
     EXPECT_FALSE(IsNumeric(text, kBrazil)) << testing::PrintToString(text);
     EXPECT_EQ(RaisedBy([&] { ToDouble(text, kBrazil); }), kTypeMismatch) << testing::PrintToString(text);
   }
@@ -122,8 +123,8 @@ TEST(NumberToText, WritesFifteenDigitsAtMost) {
 TEST(DecimalProduct, IsExactInDecimals) {
   const struct { double value, factor, product; } rows[] = {
       {1.005, 100, 100.5}, {-2.675, 100, -267.5}, {.1 + .2, 10, 3}, {1e28, 7, 7e28}, {1e-28, 1e28, 1},
-      {1e-300, 1e20, 0}, {1.5e-14, 1e-14, 2e-28}, {2.5e-14, 1e-14, 2e-28}, {792281625142643, 1e14, 7.92281625142643e28},
-      {12345.6789012345, 98765.4321098765, 1219326311.3702106},
+      {1e-300, 1e20, 0}, {1.5e-14, 1e-14, 2e-28}, {2.5e-14, 1e-14, 2e-28},
+      {792281625142643, 1e14, 7.92281625142643e28}, {12345.6789012345, 98765.4321098765, 1219326311.3702106},
       {0.123456789012345, 0.123456789012345, 0.01524157875323867},
       {99999999999999.9, 99999999999999.9, 9.99999999999998e27}};
   for (const auto& row : rows) EXPECT_EQ(DecimalProduct(row.value, row.factor), row.product) << row.value;

@@ -2,25 +2,13 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
-#include <new>
 #include <random>
 
+#include "../platform/allocations.h"
 #include "gabarito/platform/number.h"
+#include "gabarito/rules/formatadores.h"
 #include "gabarito/rules/texto.h"
 #include "tabela.h"
-
-namespace {
-std::size_t alocacoes = 0;
-}  // namespace
-
-[[gnu::noinline]] void* operator new(std::size_t tamanho) {
-  ++alocacoes;
-  if (void* memoria = std::malloc(tamanho)) return memoria;
-  throw std::bad_alloc();
-}
-[[gnu::noinline]] void operator delete(void* memoria) noexcept { std::free(memoria); }
-[[gnu::noinline]] void operator delete(void* memoria, std::size_t) noexcept { std::free(memoria); }
 
 namespace gabarito {
 namespace {
@@ -31,35 +19,27 @@ const Regional kBrasil;
 
 bool ValidaCartao(std::u16string_view s) { return ValidaCartaoCredito(s, kBrasil); }
 
-const struct {
-  bool (*valida)(std::u16string_view);
-  std::u16string_view aceitos, recusados;
-} kVerificacoes[] = {
+// clang-format off
+const struct { bool (*valida)(std::u16string_view); std::u16string_view aceitos, recusados; } kVerificacoes[] = {
     {ValidaCPF, u"111.444.777-35|11144477735| 111 444.777/35- |11111111111|000.000.0O0-00|A0000000000",
      u"111.444.777-36|111.444.777-25|1114447773|111444777350||11144477735\t"},
-    {ValidaCNPJ,
-     u"11.222.333/0001-81|11222333000181|33000167|60701190|33592510|33.000.167|1E000000000064|&H00000F",
-     u"11.222.333/0001-82|11.222.333/0001-71|00.000.000/0000-00|00000000|33000168|112223330001|"
-     u"ABCDEFGHIJKLMN|0E00000000000|"},
+    {ValidaCNPJ, u"11.222.333/0001-81|11222333000181|33000167|60701190|33592510|33.000.167|1E000000000064|&H00000F",
+     u"11.222.333/0001-82|11.222.333/0001-71|00.000.000/0000-00|00000000|33000168|112223330001|ABCDEFGHIJKLMN|"
+     u"0E00000000000|"},
     {ValidaCartao,
      u"4111 1111 1111 1111|4111111111111111|4111-1111-1111-1111|0|18|(18)|R$ 1,8|00000000000000000018|&HFF|"
      u"18----------------------------------------------------------------------------------------------",
      u"4111 1111 1111 1112|| - |4111a|000000000000000000018|1,,8|10|"
      u"18xxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxx"}};
+// clang-format on
 
-TEST(Documentos, PassWithRightCheckDigitsWithoutAnAllocation) {
-  for (const auto& verificacao : kVerificacoes) {
-    for (const auto& s : Divide(verificacao.aceitos, u'|')) {
-      const std::size_t antes = alocacoes;
-      const bool aceito = verificacao.valida(s);
-      EXPECT_EQ(alocacoes, antes) << PrintToString(s);
-      EXPECT_TRUE(aceito) << PrintToString(s);
-    }
-  }
-}
-
-TEST(Documentos, AreRefusedWithWrongDigitsOrLength) {
+TEST(Documentos, PassWithRightCheckDigitsWithoutAnAllocationAndAreRefusedWithWrongOnes) {
   for (const auto& [valida, aceitos, recusados] : kVerificacoes) {
+    for (const auto& s : Divide(aceitos, u'|')) {
+      const std::size_t antes = allocations;
+      const bool aceito = valida(s);
+      EXPECT_TRUE(aceito && allocations == antes) << PrintToString(s) << allocations - antes;
+    }
     for (const auto& s : Divide(recusados, u'|')) EXPECT_FALSE(valida(s)) << PrintToString(s);
   }
 }
@@ -119,6 +99,27 @@ TEST(Documentos, FastChecksAnswerAsTheStepsDoOnAnyText) {
     for (std::size_t i = 0; i < 3; ++i) aceitos[i] += kVerificacoes[i].valida(s);
   }
   for (const std::size_t quantos : aceitos) EXPECT_GT(quantos, 10u);
+}
+
+TEST(Formatadores, PunctuateADocumentAndLeaveAllElseBare) {
+  // clang-format off
+  const struct { std::u16string (*formata)(std::u16string_view); std::u16string_view casos; } formatadores[] = {
+      {FormataComoCPF, u"11144477735=111.444.777-35|111.444.777-35=111.444.777-35|111.444.777-3=1114447773|"
+                       u"x1-1.1/444777 35=111.444.777-35|111.444.777-355=111444777355|="},
+      {FormataComoCNPJ, u"11222333000181=11.222.333/0001-81|11.222.333/0001-81=11.222.333/0001-81|"
+                        u"33.000.167=33000167"},
+      {FormataComoCartao, u"4111111111111111=4111 1111 1111 1111| 41 11-1111x1111 111=4111 -111 1x11 1111|"
+                          u"123456=1234 56  |=   |12345678901234567890=1234 5678 9012 3456"}};
+  // clang-format on
+  for (const auto& [formata, casos] : formatadores) {
+    for (const auto& c : Linhas(casos)) EXPECT_EQ(formata(c[0]), c[1]) << PrintToString(c[0]);
+  }
+}
+
+TEST(Formatadores, OnlyThoseThatWalkTheTextOverflow) {
+  const std::u16string longo(40000, u'x');
+  ExpectRaised(kOverflow, {[&] { FormataComoCPF(longo); }, [&] { FormataComoCNPJ(longo); }});
+  EXPECT_EQ(FormataComoCartao(longo), u"xxxx xxxx xxxx xxxx");
 }
 
 }  // namespace

@@ -2,32 +2,29 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
+#include <limits>
 #include <random>
 
 #include "gabarito/platform/number.h"
+#include "gabarito/rules/arredonda.h"
+#include "hosts/memory/environment.h"
 #include "tabela.h"
 
 namespace gabarito {
 namespace {
 
 using enum FormaDeNumero;
+using testing::PrintToString;
 
-struct Sistema : Kernel32 {
-  Sistema(std::string decimal, std::string milhar) : marcas{std::move(decimal), std::move(milhar)} {}
+memory::SettableKernel Sistema(std::u16string_view decimal, std::u16string_view milhar) {
+  memory::SettableKernel sistema;
+  sistema.regional.decimal = decimal;
+  sistema.regional.thousands = milhar;
+  return sistema;
+}
 
-  std::int32_t GetLocaleInfoA(std::int32_t, std::int32_t item, std::span<char> buffer) const override {
-    const std::string& marca = marcas[item - kLocaleDecimal];
-    if (marca.size() >= buffer.size()) return 0;
-    std::copy_n(marca.c_str(), marca.size() + 1, buffer.begin());
-    return static_cast<std::int32_t>(marca.size() + 1);
-  }
-  void GetVersionExA(OSVERSIONINFO&) const override {}
-
-  std::string marcas[2];
-};
-
-std::u16string Formata(std::u16string_view valor, FormaDeNumero forma, const Sistema& sistema = {",", "."}) {
+std::u16string Formata(std::u16string_view valor, FormaDeNumero forma,
+                       const memory::SettableKernel& sistema = Sistema(u",", u".")) {
   Regional regional;
   regional.decimal = SeparadorDecimal(sistema);
   regional.thousands = SeparadorDeMilhar(sistema);
@@ -36,37 +33,27 @@ std::u16string Formata(std::u16string_view valor, FormaDeNumero forma, const Sis
 }
 
 TEST(FormataComoReal, NormalisesWhatWasTyped) {
-  const struct {
-    FormaDeNumero forma;
-    std::u16string_view casos;
-  } formas[] = {
+  // 15 digits enter the rounding: 0,445, 1 and 0 in the last row of kMoeda.
+  const std::pair<FormaDeNumero, std::u16string_view> formas[] = {
       {kMoeda,
        u"5=5,00|5,=5,00|5,5=5,50|5,50=5,50|5,05=5,05|,5=0,50|1234,5=1234,50|1.234,5=1.234,50|"
        u"12,345=12,35|12,344=12,34|1,005=1,01|12,001=12,00|12,999=12,00|=|abc=|-5,5=5,50|R$ 7,5=7,50|"
        u"0.000=|.=|,=0,00|0.000,00=0,00|000,1=0,10|1,2.3,4=1,23|12.34567,8=1.234.567,80|"
-       // 15 digits enter the rounding: 0,445, 1 and 0.
        u"1,4449999999999999999999=1,45|1,9999999999999999999=1,00|1,0000000000000000001=1,00"},
       {kReal, u"1,500=1,500|7,=7|,5=0,5|12=12|x=|0.000=|1234.5=12.345|0.9,1=0,1"},
       {kVersao, u"1.2.3=1.23|1,5=1.5|3=3|x=|1.234,5=1.234.5"}};
   for (const auto& [forma, casos] : formas) {
-    for (const auto& c : Linhas(casos)) EXPECT_EQ(Formata(c[0], forma), c[1]) << testing::PrintToString(c[0]);
+    for (const auto& c : Linhas(casos)) EXPECT_EQ(Formata(c[0], forma), c[1]) << PrintToString(c[0]);
   }
 }
 
-TEST(FormataComoReal, SkipsTheStepsThatALongTextFails) {
-  const std::u16string longo = std::u16string(32767, u'x') + u"1,5";
-  EXPECT_EQ(Formata(longo, kMoeda), longo + u",00");
-}
-
-TEST(FormataComoReal, FollowsItsStepsUnderAnySeparators) {
-  const struct {
-    std::string decimal, milhar;
-    std::u16string_view resultado;
-  } casos[] = {
-      {".", ",", u"1,234.57"}, {",", ",", u"1,23"}, {"", "", u"34"}, {",,", "..", u"1,234.567,,00"}};
-  for (const auto& [decimal, milhar, resultado] : casos) {
-    EXPECT_EQ(Formata(u"1,234.567", kMoeda, {decimal, milhar}), resultado) << decimal << " " << milhar;
-  }
+TEST(FormataComoReal, FollowsItsStepsUnderAnySeparatorsAndSkipsThoseThatALongTextFails) {
+  const std::u16string longo = std::u16string(32767, u'x') + u"1,5", numero = u"1,234.567";
+  ExpectEach<std::u16string>({{Formata(longo, kMoeda), longo + u",00"},
+                              {Formata(numero, kMoeda, Sistema(u".", u",")), u"1,234.57"},
+                              {Formata(numero, kMoeda, Sistema(u",", u",")), u"1,23"},
+                              {Formata(numero, kMoeda, Sistema(u"", u"")), u"34"},
+                              {Formata(numero, kMoeda, Sistema(u",,", u"..")), u"1,234.567,,00"}});
 }
 
 TEST(FormataComoReal, CentsFromTheTextAreThoseOfTheRounding) {
@@ -78,15 +65,42 @@ TEST(FormataComoReal, CentsFromTheTextAreThoseOfTheRounding) {
     const double unidade = Arredonda(cache, Val(u"." + fracao), 2);
     const bool inteiro = unidade == 0 || unidade == 1;
     const std::u16string centavos = inteiro ? u"00" : (NumberToText(unidade) + u"0").substr(2, 2);
-    ASSERT_EQ(Formata(u"3," + fracao, kMoeda), u"3," + centavos) << testing::PrintToString(fracao);
+    ASSERT_EQ(Formata(u"3," + fracao, kMoeda), u"3," + centavos) << PrintToString(fracao);
   }
 }
 
 TEST(Separadores, AreTheSystemsOwnAndEmptyWhenItGivesNone) {
-  EXPECT_EQ(SeparadorDecimal(Sistema(",", ".")), u",");
-  EXPECT_EQ(SeparadorDeMilhar(Sistema(",", "\x92")), u"\u2019");
-  EXPECT_EQ(SeparadorDeMilhar(Sistema(",", "123456789")), u"123456789");
-  EXPECT_EQ(SeparadorDeMilhar(Sistema(",", "1234567890")), u"");
+  const auto milhar = [](std::u16string_view marca) { return SeparadorDeMilhar(Sistema(u",", marca)); };
+  EXPECT_EQ(SeparadorDecimal(Sistema(u",", u".")), u",");
+  ExpectEach<std::u16string>(
+      {{milhar(u"\u2019"), u"\u2019"}, {milhar(u"123456789"), u"123456789"}, {milhar(u"1234567890"), u""}});
+}
+
+TEST(Arredonda, JudgesByTheOneDigitBehindTheLastPlace) {
+  for (const auto& c : Linhas(u"1.005=2=1.01|2.675=2=2.68|-1.005=2=-1.01|1.2349=2=1.23|1.2351=2=1.24|2.5=0=3|"
+                              u"-2.5=0=-3|0.49999=0=0|0=2=0|1250=-2=1300|1249=-2=1200|0.999=2=1")) {
+    CacheDeArredonda cache;
+    EXPECT_EQ(Arredonda(cache, Val(c[0]), ToInt32(Val(c[1]))), Val(c[2])) << PrintToString(c);
+  }
+}
+
+TEST(Arredonda, AnswersTheLastPairFromItsCacheAndNoOther) {
+  CacheDeArredonda cache;
+  EXPECT_EQ(Arredonda(cache, 1.005, 2), 1.01);
+  cache.ultimoResultado = 7;  // shows whether the rounding runs again
+  EXPECT_EQ(Arredonda(cache, 0, 2), 0);
+  EXPECT_EQ(Arredonda(cache, 1.005, 2), 7);
+  EXPECT_EQ(Arredonda(cache, 1.005, 0), 1);
+  EXPECT_EQ(Arredonda(cache, 1.005, 2), 1.01);
+}
+
+TEST(Arredonda, OverflowsBeyondTheDecimalTypeAndOnNoNumber) {
+  CacheDeArredonda cache;
+  for (const auto& c : Linhas(u"7e26=2=0|8e26=2=6|-8e26=2=6|1=400=6|1=-400=6|1e300=0=0")) {
+    EXPECT_EQ(RaisedBy([&] { Arredonda(cache, Val(c[0]), ToInt32(Val(c[1]))); }), Val(c[2]))
+        << PrintToString(c);
+  }
+  EXPECT_EQ(RaisedBy([&] { Arredonda(cache, std::numeric_limits<double>::infinity(), 0); }), kOverflow);
 }
 
 }  // namespace

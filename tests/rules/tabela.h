@@ -6,19 +6,16 @@
 #include <string_view>
 #include <vector>
 
-#include "gabarito/platform/erro.h"
+#include "../platform/expect.h"
 
 namespace gabarito {
 
 inline std::vector<std::u16string> Divide(std::u16string_view texto, char16_t separador) {
-  std::vector<std::u16string> partes(1);
-  for (const char16_t c : texto) {
-    if (c == separador) {
-      partes.emplace_back();
-    } else {
-      partes.back() += c;
-    }
+  std::vector<std::u16string> partes;
+  for (std::size_t fim; (fim = texto.find(separador)) != texto.npos; texto.remove_prefix(fim + 1)) {
+    partes.emplace_back(texto.substr(0, fim));
   }
+  partes.emplace_back(texto);
   return partes;
 }
 
@@ -27,17 +24,6 @@ inline std::vector<std::vector<std::u16string>> Linhas(std::u16string_view tabel
   std::vector<std::vector<std::u16string>> linhas;
   for (const std::u16string& linha : Divide(tabela, u'|')) linhas.push_back(Divide(linha, u'='));
   return linhas;
-}
-
-// The number of the run-time error that `passo` raises, 0 for none.
-template <class Passo>
-std::int32_t NumeroDoErro(Passo&& passo) {
-  try {
-    passo();
-  } catch (const Erro& erro) {
-    return erro.Number();
-  }
-  return 0;
 }
 
 }  // namespace gabarito

@@ -24,9 +24,8 @@ TEST(Substitui, ReplacesWhatItFindsAndNeverSearchesWhatItBroughtIn) {
 }
 
 TEST(SoCaracteres, KeepsTheSetInAnyCaseAndTheTextAsItStands) {
-  for (const auto& c : Linhas(u"a1-b2=0123456789=12|ab=B=b|AB=b=B|çÇñ=Ç=çÇ|ÿŸy=ÿ=ÿŸ|abc==")) {
+  for (const auto& c : Linhas(u"a1-b2=0123456789=12|ab=B=b|AB=b=B|çÇñ=Ç=çÇ|ÿŸy=ÿ=ÿŸ|abc=="))
     EXPECT_EQ(SoCaracteres(c[0], c[1]), c[2]);
-  }
   EXPECT_EQ(SoDigitos(u"٣1²-2"), u"12");
 }
 
@@ -43,20 +42,18 @@ TEST(PfTiraAcentoDeFrase, GivesPlainCapitalsOfTheSameLength) {
 TEST(Texto, ATextBeyondTheSixteenBitCounterOverflows) {
   for (const std::size_t tamanho : {32767, 32768}) {
     const std::u16string texto(tamanho, u'1');
-    const std::int32_t erro = tamanho > 32767 ? kOverflow : 0;
-    EXPECT_EQ(NumeroDoErro([&] { SoDigitos(texto); }), erro);
-    EXPECT_EQ(NumeroDoErro([&] { SoCaracteres(texto, u"a"); }), erro);
-    EXPECT_EQ(NumeroDoErro([&] { pfTiraAcentoDeFrase(texto); }), erro);
-    EXPECT_EQ(NumeroDoErro([&] { Substitui(texto, u"1", u""); }), 0);
+    ExpectRaised(
+        tamanho > 32767 ? kOverflow : 0,
+        {[&] { SoDigitos(texto); }, [&] { SoCaracteres(texto, u"a"); }, [&] { pfTiraAcentoDeFrase(texto); }});
+    EXPECT_EQ(RaisedBy([&] { Substitui(texto, u"1", u""); }), 0);
   }
 }
 
 TEST(EhLetra, OrdersSeveralCharactersAsAText) {
   for (const auto& c : Divide(u"a|Z|ã|À|Ö|ø|ß|Þ| |*|'|\"|A1|yz", u'|'))
     EXPECT_TRUE(EhLetra(c)) << PrintToString(c);
-  for (const auto& c : Divide(u"|1|-|@|[|`|{|×|÷|ÿ|Ā|  |za|ÖA|ßa|1A|\u4E00", u'|')) {
+  for (const auto& c : Divide(u"|1|-|@|[|`|{|×|÷|ÿ|Ā|  |za|ÖA|ßa|1A|\u4E00", u'|'))
     EXPECT_FALSE(EhLetra(c)) << PrintToString(c);
-  }
 }
 
 }  // namespace

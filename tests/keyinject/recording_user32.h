@@ -7,10 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "gabarito/platform/dialogs.h"
-#include "gabarito/platform/kernel32.h"
-#include "gabarito/platform/user32.h"
-#include "hosts/memory/keyboard_layout.h"
+#include "hosts/memory/environment.h"
 
 namespace gabarito {
 
@@ -54,33 +51,24 @@ struct RecordingUser32 : User32 {
   }
   std::int16_t GetKeyState(std::int32_t key) const override { return key == kVkCapital && capsLock; }
 
+  // clang-format off
   // Nothing of the following is asked for by typing.
   std::int32_t SendMessageA(WindowHandle, int, int, std::u16string_view) override { return 0; }
-  void LockWindowUpdate(WindowHandle) override {}
   std::intptr_t GetPropA(WindowHandle, std::string_view) const override { return 0; }
-  void SetPropA(WindowHandle, std::string_view, std::intptr_t) override {}
   std::intptr_t GetWindowLongA(WindowHandle, std::int32_t) const override { return 0; }
   std::intptr_t SetWindowLongA(WindowHandle, std::int32_t, std::intptr_t) override { return 0; }
   std::int32_t CallWindowProcA(WindowProc, WindowHandle, int, int, int) override { return 0; }
   DeviceContext GetWindowDC(WindowHandle) override { return 0; }
-  void ReleaseDC(WindowHandle, DeviceContext) override {}
-  void GetClientRect(WindowHandle, RECT&) const override {}
-  void DrawEdge(DeviceContext, const RECT&, std::int32_t, std::int32_t) override {}
-  void InflateRect(RECT&, std::int32_t, std::int32_t) const override {}
+  void LockWindowUpdate(WindowHandle) override {} void ReleaseDC(WindowHandle, DeviceContext) override {}
+  void SetPropA(WindowHandle, std::string_view, std::intptr_t) override {}
+  void GetClientRect(WindowHandle, RECT&) const override {} void InflateRect(RECT&, int, int) const override {}
+  void DrawEdge(DeviceContext, const RECT&, int, int) override {}
+  // clang-format on
 };
 
-struct SystemVersion : Kernel32 {
-  OSVERSIONINFO version{.dwMajorVersion = 5, .dwMinorVersion = 1, .dwPlatformId = 2};
-  std::int32_t GetLocaleInfoA(std::int32_t, std::int32_t, std::span<char>) const override { return 0; }
-  void GetVersionExA(OSVERSIONINFO& info) const override { info = version; }
-};
-
-struct RecordingDialogs : Dialogs {
+struct RecordedSendKeys : memory::Recorder {
   std::u16string keys;  // of all SendKeys: the text, and "!" for one to wait for
-  std::int32_t MsgBox(std::u16string_view, int, std::optional<std::u16string_view>) override { return 1; }
-  void Beep() override {}
   void SendKeys(std::u16string_view text, bool wait) override { keys.append(text).append(wait, u'!'); }
-  void Trace(std::u16string_view) override {}
 };
 
 }  // namespace gabarito

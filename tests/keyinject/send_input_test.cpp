@@ -2,31 +2,19 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <chrono>
-#include <cstdlib>
-#include <new>
 
+#include "../platform/allocations.h"
+#include "../platform/expect.h"
 #include "gabarito/keyinject/key_string.h"
-#include "gabarito/platform/erro.h"
 #include "recording_user32.h"
-
-static int allocations = 0;
-
-// Not to be inlined: next to a call of new the free looks like a mismatch to the compiler.
-[[gnu::noinline]] void* operator new(std::size_t size) {
-  ++allocations;
-  if (void* const memory = std::malloc(size)) return memory;
-  throw std::bad_alloc();
-}
-[[gnu::noinline]] void operator delete(void* memory) noexcept { std::free(memory); }
-[[gnu::noinline]] void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
 
 namespace gabarito {
 namespace {
 
 std::vector<std::u16string_view> Split(std::u16string_view text, std::u16string_view delimiter,
-                                       std::int32_t limit = -1,
-                                       Comparison comparison = Comparison::kOrdinal) {
+                                       int limit = -1, Comparison comparison = Comparison::kOrdinal) {
   std::vector<std::u16string_view> parts;
   SplitText(text, delimiter, limit, comparison, parts);
   return parts;
@@ -34,15 +22,17 @@ std::vector<std::u16string_view> Split(std::u16string_view text, std::u16string_
 
 struct Typing : testing::Test {
   RecordingUser32 user32;
-  SystemVersion system;
-  RecordingDialogs dialogs;
+  RecordedSendKeys stock;
+  memory::Environment system;
+
+  Typing() { system.recorder = &stock; }
 
   // The number of records, all sent in one call, or the number of the error, negative, if nothing was sent.
   int Send(std::u16string_view text, bool wait = true) {
     user32.calls = 0;
     user32.records.clear();
     try {
-      SendKeyString(user32, system, dialogs, text, wait);
+      SendKeyString(user32, system.kernel, system.dialogs, text, wait);
     } catch (const Erro& erro) {
       return user32.calls == 0 ? -erro.Number() : 0;
     }
@@ -54,10 +44,8 @@ struct Typing : testing::Test {
     for (const std::u16string_view row : Split(rows, u"; ")) {
       const auto parts = Split(row, u" = ");
       EXPECT_GE(Send(parts[0]), 0) << testing::PrintToString(row);
-      const std::string sent = user32.Sent();
-      EXPECT_EQ(std::u16string(sent.begin(), sent.end()),
-                std::u16string(parts.at(1)) + (sent.empty() ? u"" : u" "))
-          << testing::PrintToString(row);
+      const std::string sent = user32.Sent(), wanted(parts.at(1).begin(), parts.at(1).end());
+      EXPECT_EQ(sent, wanted + (sent.empty() ? "" : " ")) << testing::PrintToString(row);
     }
   }
 };
@@ -74,54 +62,43 @@ TEST_F(Typing, BracesHoldANameOrACharacterAndACount) {
   ExpectRecords(
       u"{LEFT 3} = 37x 37x 37x; {+} = +16 187 -16; {}} = +16 220 -16; {{} = +16 221 -16; {ABC} = +16 65 -16; "
       u"{} 2} = +16 220 -16 +16 220 -16; { } = 32; { 2} = 32 32; {abc 2} = 65 65; {F17} = +16 70 -16; "
-      u"{\u00B9} = +17 +18 49 -17 -18; {a 0} = 65; {a x} = 65; {a -70000} = 65; {a  3} = 65; {a 2 9} = 65 "
-      u"65; "
-      u"{a 1.5} = 65 65; {a 2.5} = 65 65; {tAb}{BackSpace}{BS}{BKSP}{ENTER}{ESC} = 9 8 8 8 13 27; "
-      u"{PAUSE}{BREAK}{CAPSLOCK}{NUMLOCK}{SCROLLLOCK} = 19 19x 20 144x 145; "
-      u"{PGUP}{PGDN}{END}{HOME}{UP}{RIGHT}{DOWN} = 33x 34x 35x 36x 38x 39x 40x; "
-      u"{SELECT}{PRINT} = 41 42x; {PRTSC}{PRTSCN}{PRINTSCRN}{PRINTSCREEN}{HELP} = 44x 44x 44x 44x 47; "
-      u"{INS}{INSERT}{DELETE}{DEL} = 45x 45x 46x 46x; {F1}{F2}{F9}{F10}{F16} = 112 113 120 121 127");
+      u"{\u00B9} = +17 +18 49 -17 -18; {a 0} = 65; {a x} = 65; {a -70000} = 65; {a  3} = 65; "
+      u"{a 2 9} = 65 65; {a 1.5} = 65 65; {a 2.5} = 65 65; "
+      u"{tAb}{BackSpace}{BS}{BKSP}{ENTER}{ESC}{SELECT}{PRINT} = 9 8 8 8 13 27 41 42x; "
+      u"{PAUSE}{BREAK}{CAPSLOCK}{NUMLOCK}{SCROLLLOCK}{F1}{F2}{F9} = 19 19x 20 144x 145 112 113 120; "
+      u"{PGUP}{PGDN}{END}{HOME}{UP}{RIGHT}{DOWN}{F10}{F16} = 33x 34x 35x 36x 38x 39x 40x 121 127; "
+      u"{PRTSC}{PRTSCN}{PRINTSCRN}{PRINTSCREEN}{HELP} = 44x 44x 44x 44x 47; "
+      u"{INS}{INSERT}{DELETE}{DEL} = 45x 45x 46x 46x");
 }
 
 TEST_F(Typing, WhatHasNoKeyGoesOutInUnicodeAndWhatCannotBeReadIsDropped) {
   // U+0085 and U+0142 are not in the code page; as a question mark they would have a key.
   ExpectRecords(
-      u"\u20AC = u20AC; \uFFFD = uFFFD; +\u00F1 = +16 uF1 -16; (\u00B4) = uB4; {^ 2} = u5E u5E; \u0085 = "
-      u"u85; "
-      u"{\u0142} = u142;  = ; ( = ; (({{(( = ; (abc = 65 66 67; () = +16 48 -16; +(a = +16 -16 65; "
-      u"ab{ = 65 66; {} = +16 220 -16; {+a = +16 65 -16; ((a)b) = +16 57 -16 65 66 +16 48 -16; "
-      u"{(a)}} = +16 57 -16 +16 220 -16; + = +16 -16; a^% = 65 +17 +18 -18 -17");
+      u"\u20AC = u20AC; \uFFFD = uFFFD; +\u00F1 = +16 uF1 -16; (\u00B4) = uB4; {^ 2} = u5E u5E; "
+      u"\u0085 = u85; {\u0142} = u142;  = ; ( = ; (({{(( = ; (abc = 65 66 67; () = +16 48 -16; "
+      u"+(a = +16 -16 65; ab{ = 65 66; {} = +16 220 -16; {+a = +16 65 -16; ((a)b) = +16 57 -16 65 66 +16 48 "
+      u"-16; {(a)}} = +16 57 -16 +16 220 -16; + = +16 -16; a^% = 65 +17 +18 -18 -17");
 }
 
 TEST_F(Typing, CapsLockTurnsOverTheShiftOfLettersOutsideBraces) {
   user32.capsLock = true;
   ExpectRecords(
-      u"aA = +16 65 -16 65; (zZ) = +16 90 -16 90; 1! = 49 +16 49 -16; \u00E7 = 186; [@ = 221 +16 50 -16; "
-      u"{a} = 65");
+      u"aA = +16 65 -16 65; (zZ) = +16 90 -16 90; 1! = 49 +16 49 -16; \u00E7 = 186; {a} = 65; "
+      u"[@ = 221 +16 50 -16");
 }
 
 const auto a = [](std::size_t count) { return std::u16string(count, u'a'); };
 
 TEST_F(Typing, AllRecordsThatFitGoOutAndAnErrorSendsNothingAndLeavesNothingBehind) {
   // 486 records leave the bound as it is, 26 are free; 488 raise it by 511.
-  const std::pair<std::u16string, int> rows[] = {{a(300), 600},
-                                                 {a(100000), 200000},
-                                                 {u"{a 256}", 512},
-                                                 {u"{a 257}", -9},
-                                                 {u"+{a 256}", -9},
-                                                 {u"(" + a(256) + u")", 512},
-                                                 {u"(" + a(257) + u")", -9},
-                                                 {a(243) + u"{a 13}", 512},
-                                                 {a(243) + u"{a 14}", -9},
-                                                 {a(244) + u"{a 267}", 1022},
-                                                 {a(244) + u"{a 268}", -9},
-                                                 {u"{a 256}{a 255}", 1022},
-                                                 {u"{a 256}{a 256}", -9},
-                                                 {std::u16string(256, u'+'), 512},
-                                                 {std::u16string(100000, u'+'), -9},
-                                                 {u"{a 32767.4}", -9},
-                                                 {u"{a 32767.5}", -6},
-                                                 {u"+({{b 1e400}", -6}};
+  // clang-format off
+  const std::pair<std::u16string, int> rows[] = {
+      {a(300), 600}, {a(100000), 200000}, {u"{a 256}", 512}, {u"{a 257}", -9}, {u"+{a 256}", -9},
+      {u"(" + a(256) + u")", 512}, {u"(" + a(257) + u")", -9}, {a(243) + u"{a 13}", 512},
+      {a(243) + u"{a 14}", -9}, {a(244) + u"{a 267}", 1022}, {a(244) + u"{a 268}", -9},
+      {u"{a 256}{a 255}", 1022}, {u"{a 256}{a 256}", -9}, {std::u16string(256, u'+'), 512},
+      {std::u16string(100000, u'+'), -9}, {u"{a 32767.4}", -9}, {u"{a 32767.5}", -6}, {u"+({{b 1e400}", -6}};
+  // clang-format on
   for (const auto& [text, outcome] : rows) {
     EXPECT_EQ(Send(text), outcome) << "row " << &text - &rows[0].first;
     ExpectRecords(u"A = +16 65 -16");
@@ -130,20 +107,19 @@ TEST_F(Typing, AllRecordsThatFitGoOutAndAnErrorSendsNothingAndLeavesNothingBehin
 }
 
 TEST_F(Typing, TheOldestSystemsGetTheStockSendKeys) {
-  const struct {
-    std::int32_t platform, major, minor, records;
-  } rows[] = {{1, 4, 0, 0}, {1, 4, 9, 0}, {1, 4, 10, 4}, {1, 5, 0, 4}, {1, 3, 51, 4}, {2, 4, 0, 4}};
-  for (const auto& row : rows) {
-    system.version = {148, row.major, row.minor, 0, row.platform};
-    EXPECT_EQ(Send(u"+{TAB}", row.minor == 9), row.records) << "row " << &row - rows;
+  // The platform, the major and the minor version, and the records sent.
+  for (const auto& row : std::initializer_list<std::array<int, 4>>{
+           {1, 4, 0, 0}, {1, 4, 9, 0}, {1, 4, 10, 4}, {1, 5, 0, 4}, {1, 3, 51, 4}, {2, 4, 0, 4}}) {
+    system.kernel.version = {148, row[1], row[2], 0, row[0]};
+    EXPECT_EQ(Send(u"+{TAB}", row[2] == 9), row[3]) << testing::PrintToString(row);
   }
-  EXPECT_EQ(dialogs.keys, u"+{TAB}+{TAB}!");
+  EXPECT_EQ(stock.keys, u"+{TAB}+{TAB}!");
 }
 
 TEST_F(Typing, AWarmThreadAllocatesNothing) {
   const std::u16string_view text = u"{TAB}+{TAB}{PRINTSCREEN 2 x}(ab\u20AC)~{a";
   user32.records.reserve(static_cast<std::size_t>(Send(text)));
-  const int before = allocations;
+  const std::size_t before = allocations;
   Send(text);
   EXPECT_EQ(allocations, before);
 }
@@ -154,21 +130,20 @@ TEST_F(Typing, OpenersWithoutACloserTakeLinearTime) {
     while (text.size() < 300'000) text += pair;
     const auto start = std::chrono::steady_clock::now();
     Send(text);
-    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(5))
-        << testing::PrintToString(pair);
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(5)) << "from " << int(pair[0]);
   }
 }
 
 TEST(SplitText, CutsAtEachDelimiterUpToTheLimit) {
   using Parts = std::vector<std::u16string_view>;
-  EXPECT_EQ(Split(u" a  b", u" "), (Parts{u"", u"a", u"", u"b"}));
-  EXPECT_EQ(Split(u"", u" "), (Parts{u""}));
-  EXPECT_EQ(Split(u"a b c", u" ", 2), (Parts{u"a", u"b c"}));
-  EXPECT_EQ(Split(u"a b c", u" ", 1), (Parts{u"a b c"}));
-  EXPECT_EQ(Split(u"a b c", u" ", 0), Parts{});
-  EXPECT_EQ(Split(u"a b", u""), (Parts{u"a b"}));
-  EXPECT_EQ(Split(u"1xy2XY3xY", u"xY"), (Parts{u"1xy2XY3", u""}));
-  EXPECT_EQ(Split(u"1xy2XY3", u"xY", -1, Comparison::kIgnoreCase), (Parts{u"1", u"2", u"3"}));
+  // clang-format off
+  ExpectEach<Parts>({
+      {Split(u" a  b", u" "), {u"", u"a", u"", u"b"}}, {Split(u"", u" "), {u""}},
+      {Split(u"a b", u""), {u"a b"}}, {Split(u"a b c", u" ", 2), {u"a", u"b c"}},
+      {Split(u"a b c", u" ", 1), {u"a b c"}}, {Split(u"a b c", u" ", 0), {}},
+      {Split(u"1xy2XY3xY", u"xY"), {u"1xy2XY3", u""}},
+      {Split(u"1xy2XY3", u"xY", -1, Comparison::kIgnoreCase), {u"1", u"2", u"3"}}});
+  // clang-format on
 }
 
 }  // namespace

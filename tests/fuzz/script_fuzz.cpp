@@ -23,14 +23,13 @@ bool SoundEntry(const Widget& widget) {
 std::string BrokenChild(const memory::FieldParts& parts) {
   for (std::size_t i = 0; i < 3; ++i) {
     if (!Sound(parts.lbl_controle[i].Bounds())) return "a label is out of place";
-    if (!SoundEntry(parts.txt_entrada[i]) || !SoundEntry(parts.txt_entrada3D[i]))
-      return "a text box is unsound";
+    const bool boxes = SoundEntry(parts.txt_entrada[i]) && SoundEntry(parts.txt_entrada3D[i]);
+    if (!boxes) return "a text box is unsound";
   }
-  const auto entries = static_cast<std::int64_t>(parts.Combo1.Entries().Count());
   if (!SoundEntry(parts.MaskEdBox1)) return "the masked box is unsound";
-  if (!SoundEntry(parts.Combo1) || parts.Combo1.Selected() < -1 || parts.Combo1.Selected() >= entries) {
-    return "the combo box is unsound";
-  }
+  const auto entries = static_cast<std::int64_t>(parts.Combo1.Entries().Count());
+  const bool selected = parts.Combo1.Selected() >= -1 && parts.Combo1.Selected() < entries;
+  if (!SoundEntry(parts.Combo1) || !selected) return "the combo box is unsound";
   return Sound(parts.surface.Bounds()) ? "" : "the surface is out of place";
 }
 
@@ -67,17 +66,14 @@ std::string Attack::BrokenInvariant(const std::string& line) {
   const Campo& state = field->Estado();
   if (!OneArray(state)) return "the active boxes are not one array";
   if (state.mMaxLength < 0) return "mMaxLength is negative";
-  if (state.mSegmentos < 0 || state.mSegmentos > 3)
-    return "mSegmentos is " + std::to_string(state.mSegmentos);
-  const std::string written = out_.str();
-  if (line.starts_with("set MaskText ") &&
-      written.find("PropertyChanged\",\"name\":\"MaskText") != std::string::npos && state.mMask != gbDefUsr) {
-    return "MaskText was set without its kind";
-  }
-  const bool life = line.starts_with("new") || line.starts_with("init") || line.starts_with("load");
-  const bool exit =
-      line.starts_with("get Text") || written.find("\"event\":\"ExitFocus\"") != std::string::npos;
-  if (state.mValor != value_ && !life && !exit) return "mValor changed without an exit";
+  if (state.mSegmentos < 0 || state.mSegmentos > 3) return "mSegmentos is out of range";
+  const auto begins = [&](std::string_view action) { return line.starts_with(action); };
+  const auto tells = [&](std::string_view what) { return out_.view().find(what) != std::string_view::npos; };
+  const bool patternSet = begins("set MaskText ") && tells("PropertyChanged\",\"name\":\"MaskText");
+  if (patternSet && state.mMask != gbDefUsr) return "MaskText was set without its kind";
+  const bool mayChange = begins("new") || begins("init") || begins("load") || begins("get Text");
+  const bool changed = state.mValor != value_ && !mayChange && !tells("\"event\":\"ExitFocus\"");
+  if (changed) return "mValor changed without an exit";
   value_ = state.mValor;
   return BrokenChild(field.Parts());
 }

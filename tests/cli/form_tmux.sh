@@ -32,7 +32,8 @@ cat >"$work/campos.json" <<'END'
 END
 env -u NO_COLOR -u TMUX tmux -L "$socket" -f /dev/null new-session -d -s form -x 80 -y 24 "PS1='> ' bash --norc"
 sees '>'
-keys -l "cd '$work'; stty -a >before; x=\$('$program' form --fields campos.json); echo \"\$? \$x\" >out; stty -a >after; clear; echo left"
+# The command line itself must not show the word that tells of its end.
+keys -l "cd '$work'; stty -a >before; x=\$('$program' form --fields campos.json); echo \"\$? \$x\" >out; stty -a >after; clear; echo le''ft"
 keys Enter
 sees 'Município'
 

@@ -6,19 +6,45 @@
 #include <string>
 
 #include "gabarito/keyinject/send_input.h"
-#include "hosts/memory/keyboard_layout.h"
-#include "keyinject/recording_user32.h"
+#include "hosts/memory/environment.h"
 
 namespace gabarito {
 namespace {
 
-// Counts records and keeps none, so that what is measured is the making of them.
-class CountingUser32 final : public RecordingUser32 {
+// The keyboard calls over the Brazilian layout; events are counted and not kept, so that what is measured is
+// the making of them. No window is ever asked for.
+class CountingUser32 final : public User32 {
  public:
   std::int32_t SendInput(std::span<const INPUT> events, std::int32_t) override {
     benchmark::DoNotOptimize(events.data());
     return static_cast<std::int32_t>(events.size());
   }
+  std::int16_t VkKeyScanA(std::uint8_t character) const override { return layout_.VkKeyScan(character); }
+  std::int32_t GetKeyboardLayout(std::int32_t) const override { return layout_.handle; }
+  std::int32_t MapVirtualKeyExA(std::int32_t key, std::int32_t, std::int32_t) const override {
+    return layout_.ScanCode(key);
+  }
+  std::int16_t GetKeyState(std::int32_t) const override { return 0; }
+
+  std::int32_t SendMessageA(WindowHandle, std::int32_t, std::int32_t, std::u16string_view) override {
+    return 0;
+  }
+  void LockWindowUpdate(WindowHandle) override {}
+  std::intptr_t GetPropA(WindowHandle, std::string_view) const override { return 0; }
+  void SetPropA(WindowHandle, std::string_view, std::intptr_t) override {}
+  std::intptr_t GetWindowLongA(WindowHandle, std::int32_t) const override { return 0; }
+  std::intptr_t SetWindowLongA(WindowHandle, std::int32_t, std::intptr_t) override { return 0; }
+  std::int32_t CallWindowProcA(WindowProc, WindowHandle, std::int32_t, std::int32_t, std::int32_t) override {
+    return 0;
+  }
+  DeviceContext GetWindowDC(WindowHandle) override { return 0; }
+  void ReleaseDC(WindowHandle, DeviceContext) override {}
+  void GetClientRect(WindowHandle, RECT&) const override {}
+  void DrawEdge(DeviceContext, const RECT&, std::int32_t, std::int32_t) override {}
+  void InflateRect(RECT&, std::int32_t, std::int32_t) const override {}
+
+ private:
+  const memory::KeyboardLayout& layout_ = memory::Abnt2();
 };
 
 void AddByHand(User32& user32, std::int16_t key, INPUT*& next) {
@@ -44,11 +70,10 @@ void Floor(benchmark::State& state, std::u16string_view letters) {
 
 void Send(benchmark::State& state, std::u16string_view text) {
   CountingUser32 user32;
-  SystemVersion system;
-  RecordingDialogs dialogs;
+  memory::Environment environment;
   for (auto _ : state) {
     benchmark::DoNotOptimize(text);
-    SendKeyString(user32, system, dialogs, text, true);
+    SendKeyString(user32, environment.kernel, environment.dialogs, text, true);
   }
 }
 

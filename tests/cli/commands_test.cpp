@@ -104,14 +104,11 @@ TEST(LineReader, GivesAWholeLineBeforeTheInputEnds) {
   ASSERT_EQ(write(ends[1], "one\r\ntw", 7), 7);
   LineReader reader(ends[0], "pipe");
   std::string_view line;
-  EXPECT_FALSE(reader.Next(line));
-  EXPECT_TRUE(reader.Fill());
-  EXPECT_TRUE(reader.Next(line));
+  EXPECT_TRUE(!reader.Next(line) && reader.Fill() && reader.Next(line)) << line;
   EXPECT_EQ(line, "one");
   EXPECT_FALSE(reader.Next(line));
   close(ends[1]);
-  EXPECT_FALSE(reader.Fill());
-  EXPECT_TRUE(reader.Rest(line));
+  EXPECT_TRUE(!reader.Fill() && reader.Rest(line)) << line;
   EXPECT_EQ(line, "tw");
   EXPECT_FALSE(reader.Rest(line));
   close(ends[0]);
@@ -128,12 +125,12 @@ TEST(Field, PrintsTheValueAndEachMessageBoxOnOneLine) {
   const struct { FieldCommandOptions options; Outcome outcome; } rows[] = {
       {{{"gbCPF", {}}, "11144477735", {}}, {0, "111.444.777-35\n"}}, {{{"gbCPF", {}}, {}, {}}, {0, "\n"}},
       {{{"gbCPF", {}}, {}, "111x44477735"}, {0, "111.444.777-35\n"}},
+      {{{"gbNenhuma", {}}, "ab", "{END}c"}, {0, "ABC\n"}},
       {{{"gbCEP", {}}, {}, "01310-100"}, {0, "01310-100\n"}},
       {{{"gbData", {}}, {}, "05{TAB}03{TAB}2024"}, {0, "05/03/2024\n"}},
-      {{{"gbNenhuma", {}}, "ab", "{END}c"}, {0, "ABC\n"}},
       {{{"gbEstado", {"ComboListIndex=1"}}, {}, {}}, {0, "RJ\n"}},
-      {{{"gbNenhuma", {"MaxLength=2"}}, {}, "abc"}, {0, "AB\n"}},
       {{{"gbDefUsr", {"MaskText=##/##"}}, {}, "12"}, {0, "12/\n"}},
+      {{{"gbNenhuma", {"MaxLength=2"}}, {}, "abc"}, {0, "AB\n"}},
       {{{"gbCPF", {"MaskText=##/##"}}, "11144477735", {}}, {0, "111.444.777-35\n"}},
       {{{"gbCidadeEstadoPopulado", {}}, {}, "sao jose dos ca"}, {0, "SAO JOSE DOS CAMPOS/SP\n"}},
       {{{"gbCPF", {}}, "11144477736", {}}, {1, "\n", "Entrada inválida: O CPF informado é inválido.\n"}},

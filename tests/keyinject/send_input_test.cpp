@@ -65,9 +65,9 @@ struct RecordingUser32 : User32 {
   std::intptr_t SetWindowLongA(WindowHandle, std::int32_t, std::intptr_t) override { return 0; }
   std::int32_t CallWindowProcA(WindowProc, WindowHandle, int, int, int) override { return 0; }
   DeviceContext GetWindowDC(WindowHandle) override { return 0; }
-  void LockWindowUpdate(WindowHandle) override {} void ReleaseDC(WindowHandle, DeviceContext) override {}
   void SetPropA(WindowHandle, std::string_view, std::intptr_t) override {}
-  void GetClientRect(WindowHandle, RECT&) const override {} void InflateRect(RECT&, int, int) const override {}
+  void LockWindowUpdate(WindowHandle) override {} void GetClientRect(WindowHandle, RECT&) const override {}
+  void ReleaseDC(WindowHandle, DeviceContext) override {} void InflateRect(RECT&, int, int) const override {}
   void DrawEdge(DeviceContext, const RECT&, int, int) override {}
   // clang-format on
 };

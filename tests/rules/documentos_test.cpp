@@ -20,12 +20,13 @@ const Regional kBrasil;
 bool ValidaCartao(std::u16string_view s) { return ValidaCartaoCredito(s, kBrasil); }
 
 // clang-format off
-const struct { bool (*valida)(std::u16string_view); std::u16string_view aceitos, recusados; } kVerificacoes[] = {
+const struct { bool (*valida)(std::u16string_view); std::u16string_view aceitos, recusados; } kChecks[] = {
     {ValidaCPF, u"111.444.777-35|11144477735| 111 444.777/35- |11111111111|000.000.0O0-00|A0000000000",
      u"111.444.777-36|111.444.777-25|1114447773|111444777350||11144477735\t"},
-    {ValidaCNPJ, u"11.222.333/0001-81|11222333000181|33000167|60701190|33592510|33.000.167|1E000000000064|&H00000F",
-     u"11.222.333/0001-82|11.222.333/0001-71|00.000.000/0000-00|00000000|33000168|112223330001|ABCDEFGHIJKLMN|"
-     u"0E00000000000|"},
+    {ValidaCNPJ,
+     u"11.222.333/0001-81|11222333000181|33000167|60701190|33592510|33.000.167|1E000000000064|&H00000F",
+     u"11.222.333/0001-82|11.222.333/0001-71|00.000.000/0000-00|00000000|33000168|112223330001|"
+     u"ABCDEFGHIJKLMN|0E00000000000|"},
     {ValidaCartao,
      u"4111 1111 1111 1111|4111111111111111|4111-1111-1111-1111|0|18|(18)|R$ 1,8|00000000000000000018|&HFF|"
      u"18----------------------------------------------------------------------------------------------",
@@ -34,7 +35,7 @@ const struct { bool (*valida)(std::u16string_view); std::u16string_view aceitos,
 // clang-format on
 
 TEST(Documentos, PassWithRightCheckDigitsWithoutAnAllocationAndAreRefusedWithWrongOnes) {
-  for (const auto& [valida, aceitos, recusados] : kVerificacoes) {
+  for (const auto& [valida, aceitos, recusados] : kChecks) {
     for (const auto& s : Divide(aceitos, u'|')) {
       const std::size_t antes = allocations;
       const bool aceito = valida(s);
@@ -96,14 +97,14 @@ TEST(Documentos, FastChecksAnswerAsTheStepsDoOnAnyText) {
     ASSERT_EQ(ValidaCPF(s), CPFPorPassos(s)) << PrintToString(s);
     ASSERT_EQ(ValidaCNPJ(s), CNPJPorPassos(s)) << PrintToString(s);
     ASSERT_EQ(ValidaCartao(s), CartaoPorPassos(s)) << PrintToString(s);
-    for (std::size_t i = 0; i < 3; ++i) aceitos[i] += kVerificacoes[i].valida(s);
+    for (std::size_t i = 0; i < 3; ++i) aceitos[i] += kChecks[i].valida(s);
   }
   for (const std::size_t quantos : aceitos) EXPECT_GT(quantos, 10u);
 }
 
 TEST(Formatadores, PunctuateADocumentAndLeaveAllElseBare) {
   // clang-format off
-  const struct { std::u16string (*formata)(std::u16string_view); std::u16string_view casos; } formatadores[] = {
+  const struct { std::u16string (*formata)(std::u16string_view); std::u16string_view casos; } linhas[] = {
       {FormataComoCPF, u"11144477735=111.444.777-35|111.444.777-35=111.444.777-35|111.444.777-3=1114447773|"
                        u"x1-1.1/444777 35=111.444.777-35|111.444.777-355=111444777355|="},
       {FormataComoCNPJ, u"11222333000181=11.222.333/0001-81|11.222.333/0001-81=11.222.333/0001-81|"
@@ -111,7 +112,7 @@ TEST(Formatadores, PunctuateADocumentAndLeaveAllElseBare) {
       {FormataComoCartao, u"4111111111111111=4111 1111 1111 1111| 41 11-1111x1111 111=4111 -111 1x11 1111|"
                           u"123456=1234 56  |=   |12345678901234567890=1234 5678 9012 3456"}};
   // clang-format on
-  for (const auto& [formata, casos] : formatadores) {
+  for (const auto& [formata, casos] : linhas) {
     for (const auto& c : Linhas(casos)) EXPECT_EQ(formata(c[0]), c[1]) << PrintToString(c[0]);
   }
 }

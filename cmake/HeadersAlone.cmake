@@ -1,0 +1,27 @@
+# headers_alone(FOLDER TARGET): every header of src/FOLDER compiles alone against TARGET.
+#
+# A header that its own source includes first is tried by the build itself;
+# for each other one a source that includes nothing else is made here.
+function(headers_alone folder target)
+  file(GLOB headers CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/${folder}/*.h)
+  set(sources "")
+  foreach(header IN LISTS headers)
+    cmake_path(RELATIVE_PATH header BASE_DIRECTORY ${PROJECT_SOURCE_DIR}/src OUTPUT_VARIABLE name)
+    string(REGEX REPLACE "\\.h$" ".cpp" own_source ${header})
+    if(EXISTS ${own_source})
+      file(STRINGS ${own_source} includes REGEX "^#include" LIMIT_COUNT 1)
+      if(includes STREQUAL "#include \"${name}\"")
+        continue()
+      endif()
+    endif()
+    set(source ${CMAKE_CURRENT_BINARY_DIR}/${name}.cpp)
+    file(CONFIGURE OUTPUT ${source} CONTENT "#include \"${name}\"\n")
+    list(APPEND sources ${source})
+  endforeach()
+  if(sources)
+    string(MAKE_C_IDENTIFIER headers_${folder} library)
+    add_library(${library} OBJECT ${sources})
+    target_link_libraries(${library} PRIVATE ${target})
+    gabarito_options(${library})
+  endif()
+endfunction()

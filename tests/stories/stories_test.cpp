@@ -13,12 +13,14 @@
 #include <string>
 #include <vector>
 
+#include "cli/properties.h"
 #include "cli/script/script.h"
 
 namespace gabarito::cli {
 namespace {
 
 constexpr std::string_view kExpected = "#= ";
+constexpr std::string_view kAnswers = "#? ";
 constexpr std::string_view kUntold = "#- ";
 
 std::vector<std::string> LinesOf(std::istream& in) {
@@ -46,6 +48,23 @@ std::string Happened(std::stringstream& out, const std::string& untold) {
   return happened;
 }
 
+// Asks for each answer of a line and gives back what comes, parted by a blank. An answer tells its question:
+// {"get":"Mask","value":100} or {"child":"Combo1","Text":"SP"}.
+std::string Ask(Script& script, std::stringstream& out, std::string_view answers) {
+  std::string asked;
+  for (std::size_t begin = 0; begin < answers.size();) {
+    const std::size_t end = std::min(answers.find("} {", begin), answers.size() - 1) + 1;
+    const Json answer = Json::parse(answers.substr(begin, end - begin));
+    const auto first = answer.begin();
+    std::string question = first.key() + " " + first->get<std::string>();
+    if (first.key() == "child") question += " " + std::next(first).key();
+    script.Line(question);
+    asked.append(asked.empty() ? "" : " ").append(Happened(out, ""));
+    begin = end + 1;
+  }
+  return asked;
+}
+
 class Story : public testing::TestWithParam<std::filesystem::path> {};
 
 TEST_P(Story, HappensAsTold) {
@@ -59,6 +78,15 @@ TEST_P(Story, HappensAsTold) {
   std::string untold;
   for (std::size_t i = 0; i < lines.size();) {
     const std::string& action = lines[i++];
+    if (action.starts_with(kAnswers)) {
+      const std::string answers = action.substr(kAnswers.size());
+      const std::string asked = Ask(script, out, answers);
+      if (!record) {
+        EXPECT_EQ(asked, answers) << GetParam().filename() << ", line " << i;
+      }
+      recorded.append(kAnswers).append(asked) += '\n';
+      continue;
+    }
     recorded += action + '\n';
     if (action.starts_with(kUntold)) untold = action.substr(kUntold.size());
     ASSERT_NO_THROW(script.Line(action)) << "line " << i << ": " << action;

@@ -1,12 +1,10 @@
 #include "gabarito/platform/variant.h"
 
-#include <algorithm>
 #include <type_traits>
 #include <utility>
 
 #include "gabarito/platform/erro.h"
 #include "gabarito/platform/number.h"
-#include "gabarito/platform/text.h"
 
 namespace gabarito {
 namespace {
@@ -24,24 +22,6 @@ Conversion(Cases...) -> Conversion<Cases...>;
 
 template <class Result>
 constexpr auto kRefusal = [](const auto&) -> Result { throw Erro(kTypeMismatch); };
-
-bool IsSameWord(std::u16string_view a, std::u16string_view b) {
-  return a.size() == b.size() && InStr(1, a, b, Comparison::kIgnoreCase) == 1;
-}
-
-// The number of a value that has one. A text is read the same on every machine: what one stored, another
-// loads.
-double ToNumber(const Variant& value) {
-  return std::visit(Conversion{
-                        kRefusal<double>,
-                        [](Empty) -> double { return 0; },
-                        [](bool truth) -> double { return truth ? -1 : 0; },
-                        [](std::int32_t number) -> double { return number; },
-                        [](double number) -> double { return number; },
-                        [](const std::u16string& text) -> double { return ToDouble(text, Regional{}); },
-                    },
-                    value);
-}
 
 }  // namespace
 
@@ -62,22 +42,6 @@ std::u16string ToText(const Variant& value, std::u16string_view decimal) {
                         [](const std::u16string& text) { return text; },
                     },
                     value);
-}
-
-std::int32_t ToInt32(const Variant& value) { return ToInt32(ToNumber(value)); }
-
-bool ToBoolean(const Variant& value) {
-  if (const auto* const text = std::get_if<std::u16string>(&value)) {
-    if (IsSameWord(*text, kTrue)) return true;
-    if (IsSameWord(*text, kFalse)) return false;
-  }
-  return ToNumber(value) != 0;
-}
-
-FontRef ToFont(const Variant& value) {
-  const auto* const font = std::get_if<FontRef>(&value);
-  if (font == nullptr) throw Erro(kTypeMismatch);
-  return *font;
 }
 
 bool SameValue(const Variant& a, const Variant& b) {

@@ -35,15 +35,9 @@ struct VariantArray {
 
 Variant MakeArray(std::vector<Variant> items, std::int64_t lowerBound = 0);
 
-// Conversions. Each raises 13 on a value without such a form: Null, a font, an array, a text that is no
-// number; and 6 on a number beyond the type. Empty is the empty text, 0 and false; a boolean is "True" or
-// "False", -1 or 0. A text is read as a number the Brazilian way; ToBoolean takes "True" and "False", in any
-// case, too. A fraction is rounded half to even. `decimal` is the decimal mark of the region. Only a font
-// has the form of a font; an unset one comes back unset.
+// The text form. Empty is the empty text, a boolean "True" or "False"; `decimal` is the decimal mark of the
+// region. Raises 13 on a value without such a form: Null, a font, an array.
 std::u16string ToText(const Variant& value, std::u16string_view decimal = u",");
-std::int32_t ToInt32(const Variant& value);
-bool ToBoolean(const Variant& value);
-FontRef ToFont(const Variant& value);
 
 // Equal type and value; fonts by name, size and style, arrays by identity.
 bool SameValue(const Variant& a, const Variant& b);

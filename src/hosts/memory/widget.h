@@ -20,7 +20,7 @@ inline void RefuseNegative(float length) {
 }
 
 // Implements the members of Child for one of the children's interfaces. What the host itself asks goes
-// through members that the fault switch does not see: Bounds, IsVisible, Color, FontObject.
+// through members that the fault switch does not see: Bounds, IsVisible, Color.
 template <class Interface>
 class Widget : public Interface {
  public:
@@ -56,7 +56,6 @@ class Widget : public Interface {
   const Geometry& Bounds() const { return bounds_; }
   bool IsVisible() const { return visible_; }
   gabarito::Color Color() const { return color_; }
-  const StdFont& FontObject() const { return *font_; }
   std::string_view ChildName() const { return design_.name; }
 
  protected:

@@ -4,10 +4,12 @@
 #include <cerrno>
 #include <fstream>
 #include <limits>
+#include <map>
 #include <sstream>
 #include <system_error>
 
 #include "cli/utf8.h"
+#include "gabarito/platform/erro.h"
 #include "gabarito/state/mascaras.h"
 
 namespace gabarito::cli {
@@ -71,7 +73,7 @@ std::int32_t MaskOf(const Json& value) {
   return value.get<std::int32_t>();
 }
 
-void ReadMember(FieldSpec& field, const std::string& key, const Json& value) {
+void ReadMember(ListedField& field, const std::string& key, const Json& value) {
   if (key == "name") {
     field.name = TextOf(value, key);
   } else if (key == "label") {
@@ -86,8 +88,8 @@ void ReadMember(FieldSpec& field, const std::string& key, const Json& value) {
   }
 }
 
-FieldSpec ReadField(const Json& value, std::size_t position) {
-  FieldSpec field;
+ListedField ReadField(const Json& value, std::size_t position) {
+  ListedField field;
   field.where = "field " + std::to_string(position);
   // The name, or else the label, tells more than the position: the later of the two wins.
   if (value.is_object()) {
@@ -120,6 +122,38 @@ std::string PlaceOf(std::string_view text, std::size_t offset) {
   return "line " + std::to_string(line) + ", column " + std::to_string(before.size() - start + 1);
 }
 
+void Set(Gabarito& field, std::string_view name, const Json& value) {
+  try {
+    SetProperty(field, name, value);
+  } catch (const Erro& erro) {
+    throw UsageError(std::string(name) + ": error " + std::to_string(erro.Number()) + ", " +
+                     ToUtf8(erro.Description()));
+  }
+}
+
+// What a layout would undo.
+bool ComesLast(std::string_view name) { return name == "Text" || name == "ComboListIndex"; }
+
+// The kind takes its shape from words, pattern and length that are there.
+void Shape(Gabarito& field, const ListedField& listed) {
+  for (const auto& [name, value] : listed.set.items()) {
+    if (!ComesLast(name)) Set(field, name, value);
+  }
+  field.Mask(listed.mask);
+  for (const auto& [name, value] : listed.set.items()) {
+    if (ComesLast(name)) Set(field, name, value);
+  }
+}
+
+// Their values would else stand under one key, or under names that nobody has given.
+void RefuseNamesGivenTwice(const std::vector<ListedField>& fields) {
+  std::map<std::string_view, const ListedField*> by_name;
+  for (const ListedField& field : fields) {
+    const auto [place, added] = by_name.try_emplace(field.name, &field);
+    if (!added) throw UsageError(field.where + ": has the name of " + place->second->where);
+  }
+}
+
 Json Parse(std::string_view text) {
   try {
     return Json::parse(text);
@@ -130,8 +164,8 @@ Json Parse(std::string_view text) {
 
 }  // namespace
 
-std::vector<FieldSpec> BuiltInFields() {
-  std::vector<FieldSpec> fields;
+std::vector<ListedField> BuiltInFields() {
+  std::vector<ListedField> fields;
   for (const BuiltIn& row : kBuiltIn) {
     fields.push_back({.name = row.name,
                       .label = std::u16string(row.label),
@@ -142,7 +176,7 @@ std::vector<FieldSpec> BuiltInFields() {
   return fields;
 }
 
-std::vector<FieldSpec> ReadFieldList(std::string_view text) {
+std::vector<ListedField> ReadFieldList(std::string_view text) {
   const Json json = Parse(text);
   const Json* list = &json;
   if (json.is_object()) {
@@ -154,20 +188,37 @@ std::vector<FieldSpec> ReadFieldList(std::string_view text) {
   }
   if (!list->is_array()) throw UsageError("takes an array of fields, or an object with fields");
   if (list->empty()) throw UsageError("there is no field in the list");
-  std::vector<FieldSpec> fields;
+  std::vector<ListedField> fields;
   for (const Json& value : *list) fields.push_back(ReadField(value, fields.size() + 1));
+  RefuseNamesGivenTwice(fields);
   return fields;
 }
 
-std::vector<FieldSpec> ReadFieldListFile(const std::string& file) {
+std::vector<terminal::FieldSpec> ForForm(std::vector<ListedField> fields) {
+  std::vector<terminal::FieldSpec> specs;
+  for (ListedField& field : fields) {
+    terminal::FieldSpec spec{.name = field.name, .label = field.label, .set_up = {}};
+    spec.set_up = [listed = std::move(field)](Gabarito& shaped) {
+      try {
+        Shape(shaped, listed);
+      } catch (const UsageError& error) {
+        throw UsageError(listed.where + ": " + error.what());
+      }
+    };
+    specs.push_back(std::move(spec));
+  }
+  return specs;
+}
+
+std::vector<ListedField> ReadFieldListFile(const std::string& file) {
   errno = 0;
   std::ifstream in(file, std::ios::binary);
   std::ostringstream text;
   text << in.rdbuf();  // of a directory nothing can be read
   if (errno != 0) throw std::system_error(errno, std::generic_category(), "cannot read " + file);
   try {
-    std::vector<FieldSpec> fields = ReadFieldList(text.str());
-    for (FieldSpec& field : fields) field.where.insert(0, file + ": ");
+    std::vector<ListedField> fields = ReadFieldList(text.str());
+    for (ListedField& field : fields) field.where.insert(0, file + ": ");
     return fields;
   } catch (const UsageError& error) {
     throw UsageError(file + ": " + error.what());

@@ -12,10 +12,11 @@
 #include <vector>
 
 #include "cli/properties.h"
+#include "hosts/terminal/form_model.h"
 
 namespace gabarito::cli {
 
-struct FieldSpec {
+struct ListedField {
   std::string name;  // the key of its value; UTF-8
   std::u16string label;
   std::int32_t mask = 0;
@@ -23,15 +24,19 @@ struct FieldSpec {
   std::string where;  // for messages: field 2 ("cpf")
 };
 
+// The fields as a form takes them. Shaping one raises UsageError, with the place, when a property does not
+// exist or does not take its value.
+std::vector<terminal::FieldSpec> ForForm(std::vector<ListedField> fields);
+
 // A field of each kind, labelled in Portuguese.
-std::vector<FieldSpec> BuiltInFields();
+std::vector<ListedField> BuiltInFields();
 
 // UsageError in one line, with the place, on a text that is no such list: not JSON, an unknown key or mask, a
-// value of the wrong type, no field at all. Properties are judged when they are set.
-std::vector<FieldSpec> ReadFieldList(std::string_view json);
+// value of the wrong type, a name given twice, no field at all. Properties are judged when they are set.
+std::vector<ListedField> ReadFieldList(std::string_view json);
 
 // The same from a file; messages begin with its name. std::system_error when it cannot be read.
-std::vector<FieldSpec> ReadFieldListFile(const std::string& file);
+std::vector<ListedField> ReadFieldListFile(const std::string& file);
 
 }  // namespace gabarito::cli
 

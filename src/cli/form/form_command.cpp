@@ -2,8 +2,11 @@
 
 #include <iostream>
 
-#include "cli/form/form_session.h"
-#include "cli/form/terminal.h"
+#include "cli/form/field_list.h"
+#include "cli/local_clock.h"
+#include "cli/utf8.h"
+#include "hosts/terminal/form_session.h"
+#include "hosts/terminal/terminal.h"
 
 namespace gabarito::cli {
 
@@ -24,15 +27,20 @@ that ended the form, with nothing printed. NO_COLOR is honoured.)";
 
 int RunForm(const std::string& fieldsFile) {
   // The list is judged first: what is wrong with it is told with or without a terminal.
-  FormModel model(fieldsFile.empty() ? BuiltInFields() : ReadFieldListFile(fieldsFile));
+  terminal::FormModel model(ForForm(fieldsFile.empty() ? BuiltInFields() : ReadFieldListFile(fieldsFile)),
+                            LocalNow);
   // The terminal is given back before anything is written to it.
   try {
-    Terminal terminal;
-    FormSession(model, terminal).Run();
-  } catch (const Interrupted& interrupted) {
+    terminal::Terminal terminal;
+    terminal::FormSession(model, terminal).Run();
+  } catch (const terminal::Interrupted& interrupted) {
     return 128 + interrupted.signal;
+  } catch (const terminal::NoTerminal& error) {
+    throw UsageError(std::string("form: ") + error.what());
   }
-  std::cout << model.Values().dump() << '\n';
+  Json values = Json::object();
+  for (const auto& [name, value] : model.Values()) values[name] = ToUtf8(value);
+  std::cout << values.dump() << '\n';
   return 0;
 }
 

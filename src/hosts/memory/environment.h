@@ -79,6 +79,8 @@ struct Environment {
   SettableKernel kernel;
   SettableAmbient ambient;
   ScriptedDialogs dialogs{recorder};
+  // What the next field that is placed speaks through; a host with a screen sets its own here.
+  Dialogs* voice = &dialogs;
   Keyboard keyboard;
   std::u16string clipboard;
 

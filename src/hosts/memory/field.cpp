@@ -31,7 +31,7 @@ FieldParts::FieldParts(Field& field, Form& form, Control& owner)
                     .Combo1 = &Combo1,
                     .MaskEdBox1 = &MaskEdBox1,
                     .UserControl = &surface,
-                    .Dialogs = &form.System().dialogs,
+                    .Dialogs = form.System().voice,
                     .Clock = &form.System().clock,
                     .User32 = &form.AllWindows(),
                     .Kernel32 = &form.System().kernel,

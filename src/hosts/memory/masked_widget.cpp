@@ -93,7 +93,7 @@ void MaskedWidget::Character(char16_t character) {
   if (KeyAscii == kBackspace) {
     line_.Backspace();
   } else if (KeyAscii >= u' ' && !line_.Type(Chr(KeyAscii))) {
-    form_.System().dialogs.Beep();
+    form_.System().voice->Beep();
   }
 }
 

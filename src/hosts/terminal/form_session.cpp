@@ -1,13 +1,12 @@
-#include "cli/form/form_session.h"
+#include "hosts/terminal/form_session.h"
 
 #include <ranges>
 
-#include "cli/form/message_box.h"
-#include "cli/local_clock.h"
 #include "gabarito/platform/erro.h"
 #include "gabarito/platform/user32.h"
+#include "hosts/terminal/message_box.h"
 
-namespace gabarito::cli {
+namespace gabarito::terminal {
 namespace {
 
 // Leaves the form out of a message box, so that a field that goes on refusing holds nobody. It passes through
@@ -28,18 +27,13 @@ bool ClickTarget(const Screen& screen, Point at) {
 
 FormSession::FormSession(FormModel& model, Display& display)
     : model_(model), display_(display), view_(model, [this] { AskToLeave(); }) {
-  memory::ScriptedDialogs& dialogs = model_.Form().System().dialogs;
-  dialogs.onMsgBox = [this](std::u16string_view text, std::int32_t flags,
-                            std::optional<std::u16string_view> title) { return Ask(text, flags, title); };
-  dialogs.onBeep = [this] { display_.Beep(); };
+  model_.Listen(this);
   model_.Leave().onClick = [this] { left_ = true; };
 }
 
 // The form lives on and is read at the end; nobody is there to answer it then.
 FormSession::~FormSession() {
-  memory::ScriptedDialogs& dialogs = model_.Form().System().dialogs;
-  dialogs.onMsgBox = nullptr;
-  dialogs.onBeep = nullptr;
+  model_.Listen(nullptr);
   model_.Leave().onClick = nullptr;
 }
 
@@ -56,7 +50,7 @@ void FormSession::Run() {
 
 void FormSession::Handle(const Input& input) {
   // An exit check that this input leads to fills in the present moment.
-  model_.Form().System().clock.Set(LocalNow());
+  model_.TakeTime();
   try {
     Play(input);
   } catch (const Erro& erro) {
@@ -96,6 +90,13 @@ void FormSession::AskToLeave() {
   left_ = form.Focused() == &model_.Leave() && boxes_ == before;
 }
 
+std::int32_t FormSession::Told(std::size_t, std::u16string_view text, std::int32_t flags,
+                               std::optional<std::u16string_view> title) {
+  return Ask(text, flags, title);
+}
+
+void FormSession::Beeped(std::size_t) { display_.Beep(); }
+
 std::int32_t FormSession::Ask(std::u16string_view text, std::int32_t flags,
                               std::optional<std::u16string_view> title) {
   ++boxes_;
@@ -125,4 +126,4 @@ std::int32_t FormSession::Ask(std::u16string_view text, std::int32_t flags,
   return *box.Answer();
 }
 
-}  // namespace gabarito::cli
+}  // namespace gabarito::terminal

@@ -1,12 +1,12 @@
 // What the form needs from a terminal, so that a test can be one.
-#ifndef CLI_FORM_DISPLAY_H
-#define CLI_FORM_DISPLAY_H
+#ifndef HOSTS_TERMINAL_DISPLAY_H
+#define HOSTS_TERMINAL_DISPLAY_H
 
 #include <cstdint>
 
-#include "cli/form/form_view.h"
+#include "hosts/terminal/form_view.h"
 
-namespace gabarito::cli {
+namespace gabarito::terminal {
 
 struct Input {
   enum class Kind {
@@ -39,6 +39,6 @@ class Display {
   virtual void Beep() = 0;
 };
 
-}  // namespace gabarito::cli
+}  // namespace gabarito::terminal
 
-#endif  // CLI_FORM_DISPLAY_H
+#endif  // HOSTS_TERMINAL_DISPLAY_H

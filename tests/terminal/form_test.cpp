@@ -1,4 +1,4 @@
-// The interactive form without a terminal: the list of fields, what is drawn, and a person's way through it.
+// The form without a terminal: what is drawn, and a person's way through it.
 #include <gtest/gtest.h>
 
 #include <array>
@@ -6,17 +6,28 @@
 #include <functional>
 #include <map>
 
-#include "cli/form/form_session.h"
-#include "cli/form/message_box.h"
-#include "cli/form/palette.h"
-#include "cli/utf8.h"
-#include "gabarito/control/especie.h"
+#include "cli/form/field_list.h"
 #include "gabarito/platform/user32.h"
+#include "hosts/memory/utf8.h"
+#include "hosts/terminal/form_session.h"
+#include "hosts/terminal/message_box.h"
+#include "hosts/terminal/palette.h"
 
-namespace gabarito::cli {
+namespace gabarito::terminal {
 namespace {
 
 constexpr Color kPastel = 0x00D2FFFF;
+
+Date Now() { return DateFromParts({2024, 3, 5, 10, 20, 30}); }
+
+std::vector<FieldSpec> Listed(const std::string& list) { return cli::ForForm(cli::ReadFieldList(list)); }
+
+// Name=value of each field, as the command gets them.
+std::string Told(FormModel& model) {
+  std::string told;
+  for (const auto& [name, value] : model.Values()) told += name + "=" + memory::ToUtf8(value) + ";";
+  return told;
+}
 
 // A person who has typed everything beforehand, and a screen that keeps what was shown last.
 class TypedDisplay final : public Display {
@@ -69,54 +80,10 @@ class TypedDisplay final : public Display {
   std::map<std::size_t, std::function<void()>> looks_;  // by the number of inputs taken
 };
 
-// clang-format off
-TEST(FieldList, RefusesWhatIsNoneAndSaysWhere) {
-  constexpr std::pair<const char*, const char*> kBad[] = {
-      {"[", "not valid JSON at line 1, column 2"}, {"7", "takes an array of fields"},
-      {"{\"fields\":\n [{]}", "not valid JSON at line 2, column 4"},
-      {"[{\"name\":\"\xFF\"}]", "not valid JSON"},
-      {"{}", "takes an array of fields"}, {R"({"campos":[]})", "unknown key \"campos\""}, {"[]", "no field"},
-      {"[1]", "field 1: a field is an object"}, {R"([{"mask":"gbcpf"}])", "field 1: unknown mask 'gbcpf'"},
-      {R"([{"mask":100},{"name":"b"}])", "field 2 (\"b\"): mask is missing"},
-      {R"([{"mask":1.5}])", "field 1: mask takes"}, {R"([{"mask":2147483648}])", "field 1: mask takes"},
-      {R"([{"mask":100,"name":1}])", "field 1: name takes a text"},
-      {R"([{"mask":100,"set":[]}])", "field 1: set takes an object"},
-      {R"([{"mask":100,"label":"a\nb","cor":1}])", "field 1 (\"a\\nb\"): unknown key \"cor\""},
-      {R"([{"mask":100,"set":{"Cor":1}}])", "field 1: there is no property 'Cor'"},
-      {R"([{"mask":100,"set":{"Enabled":1}}])", "field 1: Enabled takes true or false"},
-      {R"([{"mask":100,"set":{"MaxLength":-32768}}])", "field 1: MaxLength: error 6"}};
-  for (const auto& [json, message] : kBad) {
-    try {
-      FormModel(ReadFieldList(json));
-      ADD_FAILURE() << "taken: " << json;
-    } catch (const UsageError& error) {
-      const std::string_view told = error.what();
-      EXPECT_TRUE(told.find(message) != told.npos && told.find('\n') == told.npos) << json << ": " << told;
-    }
-  }
-}
-// clang-format on
-
-TEST(FieldList, NameAndLabelStandInForEachOther) {
-  const auto fields =
-      ReadFieldList(R"({"fields":[{"mask":"gbCPF","label":"Nº"},{"mask":9,"name":"n"},{"mask":9}]})");
-  ASSERT_EQ(fields.size(), 3U);
-  EXPECT_EQ(fields[0].mask, gbCPF);
-  EXPECT_EQ(fields[1].label, u"n");
-  EXPECT_EQ(fields[0].name + fields[2].name, "Nºfield_3");
-}
-
-TEST(FieldList, TheFormOfItsOwnHoldsEveryKindOnce) {
-  const auto fields = BuiltInFields();
-  EXPECT_EQ(fields.size(), Especies().size());
-  for (const Especie& kind : Especies()) {
-    EXPECT_EQ(std::ranges::count(fields, kind.valor, &FieldSpec::mask), 1) << kind.nome;
-  }
-}
-
 // A form of the fields, and what is drawn of it.
 struct Drawn {
-  explicit Drawn(const std::vector<FieldSpec>& fields) : model(fields) {}
+  explicit Drawn(const char* list) : Drawn(Listed(list)) {}
+  explicit Drawn(std::vector<FieldSpec> fields) : model(std::move(fields), Now) {}
   Grid Draw(int height = 24) { return view.Draw(80, height).grid; }
 
   FormModel model;
@@ -142,14 +109,14 @@ TEST(FormView, DrawsEachLayoutFromItsChildren) {
        "C │1234567890123456789012345678901234567│"},
   };
   for (const auto& [field, row] : kRows) {
-    Drawn drawn(ReadFieldList(std::string(R"([{"label":"C",)") + field + "}]"));
+    Drawn drawn(Listed(std::string(R"([{"label":"C",)") + field + "}]"));
     EXPECT_EQ(drawn.Draw().Row(2), std::string("  ") + row) << field;
   }
 }
 
 TEST(FormView, MarksFocusSelectionAndSeparatorsByTheColoursOfTheChildren) {
-  Drawn drawn(ReadFieldList(R"([{"label":"C","mask":"gbData","set":{"Text":"29/02/2024"}},
-                                {"label":"D","mask":"gbCPF"}])"));
+  Drawn drawn(R"([{"label":"C","mask":"gbData","set":{"Text":"29/02/2024"}},
+                                {"label":"D","mask":"gbCPF"}])");
   drawn.form.Tab(false);
   Grid grid = drawn.Draw();
   EXPECT_EQ(grid.At(0, 2).glyph, U'▸');
@@ -164,7 +131,7 @@ TEST(FormView, MarksFocusSelectionAndSeparatorsByTheColoursOfTheChildren) {
 }
 
 TEST(FormView, ScrollsALongTextWithItsCaret) {
-  Drawn drawn(ReadFieldList(R"([{"label":"C","mask":100}])"));
+  Drawn drawn(R"([{"label":"C","mask":100}])");
   drawn.form.Tab(false);
   for (int i = 0; i < 5; ++i) drawn.form.Type(u"abcdefghij");
   EXPECT_EQ(drawn.Draw().Row(2), "▸ C │defghijabcdefghijabcdefghijabcdefghij│");
@@ -175,7 +142,7 @@ TEST(FormView, ScrollsALongTextWithItsCaret) {
 }
 
 TEST(FormView, AListOpensWhereThereIsRoomWithItsSelectionOnShow) {
-  Drawn drawn(std::vector<FieldSpec>(12, ReadFieldList(R"([{"label":"C","mask":"gbEstado"}])")[0]));
+  Drawn drawn(std::vector<FieldSpec>(12, Listed(R"([{"label":"C","mask":"gbEstado"}])")[0]));
   drawn.form.Tab(false);
   drawn.form.Type(u"b");  // BA is the last of 27
   Grid grid = drawn.Draw(14);
@@ -194,7 +161,7 @@ TEST(FormView, AListOpensWhereThereIsRoomWithItsSelectionOnShow) {
 }
 
 TEST(FormView, NoSizeIsTooSmall) {
-  Drawn drawn(BuiltInFields());
+  Drawn drawn(cli::ForForm(cli::BuiltInFields()));
   drawn.form.Tab(false);
   for (int i = 0; i < 60; ++i) {
     drawn.form.Tab(false);
@@ -209,7 +176,7 @@ TEST(FormView, NoSizeIsTooSmall) {
 }
 
 TEST(FormSession, AWrongCPFIsToldCorrectedAndLeft) {
-  FormModel model(ReadFieldList(R"([{"name":"cpf","mask":"gbCPF"},{"name":"cpf","mask":"gbLetra"}])"));
+  FormModel model(Listed(R"([{"name":"cpf","mask":"gbCPF"},{"name":"letra","mask":"gbLetra"}])"), Now);
   TypedDisplay display;
   display.Text(u"11144477736x").Key(kVkReturn).Then([&] {
     EXPECT_EQ(display.beeps, 1);
@@ -220,26 +187,27 @@ TEST(FormSession, AWrongCPFIsToldCorrectedAndLeft) {
   });
   display.Text(u"abc").Key(kVkTab).Key(kVkReturn);
   EXPECT_TRUE(display.Runs(model)) << "Enter presses Sair";
-  EXPECT_EQ(model.Values().dump(), R"({"cpf":"111.444.777-35","cpf_2":"abc"})");
+  EXPECT_EQ(Told(model), "cpf=111.444.777-35;letra=abc;");
 }
 
 TEST(FormSession, LeavingTellsARefusalFirstAndLeavesFromItsMessage) {
-  FormModel model(ReadFieldList(R"([{"name":"a","mask":"gbCPF"}])"));
+  FormModel model(Listed(R"([{"name":"a","mask":"gbCPF"}])"), Now);
   TypedDisplay display;
   display.Text(u"123").Leave().Then([&] { EXPECT_TRUE(display.Shows("inválido")); });
   display.Key(kVkReturn).Then([&] { EXPECT_TRUE(display.Shows("▸ a │123 ")); });
   display.Leave().Leave();
   EXPECT_TRUE(display.Runs(model));
-  EXPECT_EQ(model.Values().dump(), R"({"a":""})");
+  EXPECT_EQ(Told(model), "a=;");
 }
 
 TEST(FormSession, TheMouseFocusesPlacesTheCaretOpensAndPicks) {
-  FormModel model(ReadFieldList(R"([{"name":"a","mask":100,"set":{"Text":"abc"}},
-                                    {"name":"b","mask":"gbEstado"},{"name":"c","mask":100}])"));
+  FormModel model(Listed(R"([{"name":"a","mask":100,"set":{"Text":"abc"}},
+                                    {"name":"b","mask":"gbEstado"},{"name":"c","mask":100}])"),
+                  Now);
   TypedDisplay display;
   display.Click(6, 2).Text(u"X").Click(42, 3).Click(8, 5).Click(6, 6);
   EXPECT_TRUE(display.Runs(model)) << "the last click is on Sair";
-  EXPECT_EQ(model.Values().dump(), R"({"a":"AXBC","b":"RJ","c":""})");
+  EXPECT_EQ(Told(model), "a=AXBC;b=RJ;c=;");
 }
 
 TEST(MessageBox, AnswersByKeyLetterAndDefault) {
@@ -275,4 +243,4 @@ TEST(Palette, KeepsPastelWindowAndFaceApart) {
 }
 
 }  // namespace
-}  // namespace gabarito::cli
+}  // namespace gabarito::terminal

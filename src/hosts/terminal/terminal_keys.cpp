@@ -1,4 +1,4 @@
-#include "cli/form/terminal_keys.h"
+#include "hosts/terminal/terminal_keys.h"
 
 #define NCURSES_WIDECHAR 1
 #define NCURSES_NOMACROS 1
@@ -8,7 +8,7 @@
 
 #include "gabarito/platform/user32.h"
 
-namespace gabarito::cli {
+namespace gabarito::terminal {
 namespace {
 
 constexpr std::int16_t kVkPageUp = 33, kVkPageDown = 34, kVkEnd = 35, kVkHome = 36, kVkLeft = 37, kVkUp = 38,
@@ -124,4 +124,4 @@ std::optional<Input> InputOfCharacter(char32_t character) {
   return Input{.kind = Input::Kind::kCharacter, .character = unit};
 }
 
-}  // namespace gabarito::cli
+}  // namespace gabarito::terminal

@@ -1,11 +1,11 @@
 // Signals as something to wait for beside a key.
-#ifndef CLI_FORM_SIGNALS_H
-#define CLI_FORM_SIGNALS_H
+#ifndef HOSTS_TERMINAL_SIGNALS_H
+#define HOSTS_TERMINAL_SIGNALS_H
 
 #include <csignal>
 #include <vector>
 
-namespace gabarito::cli {
+namespace gabarito::terminal {
 
 // While one of these lives, the signals that end, stop or resize the program are held back and come out of
 // Wait alone: nothing is interrupted half-way. A signal that the program was started to ignore stays ignored.
@@ -39,6 +39,6 @@ class Signals {
   sigset_t former_mask_;
 };
 
-}  // namespace gabarito::cli
+}  // namespace gabarito::terminal
 
-#endif  // CLI_FORM_SIGNALS_H
+#endif  // HOSTS_TERMINAL_SIGNALS_H

@@ -1,14 +1,14 @@
 // Draws the form from the children of its fields, and knows what lies under a click.
-#ifndef CLI_FORM_FORM_VIEW_H
-#define CLI_FORM_FORM_VIEW_H
+#ifndef HOSTS_TERMINAL_FORM_VIEW_H
+#define HOSTS_TERMINAL_FORM_VIEW_H
 
 #include <functional>
 #include <vector>
 
-#include "cli/form/form_model.h"
-#include "cli/form/grid.h"
+#include "hosts/terminal/form_model.h"
+#include "hosts/terminal/grid.h"
 
-namespace gabarito::cli {
+namespace gabarito::terminal {
 
 // Cells that answer a click.
 struct Target {
@@ -42,6 +42,6 @@ class FormView {
   int top_ = 0;  // the first line of the form that is on show
 };
 
-}  // namespace gabarito::cli
+}  // namespace gabarito::terminal
 
-#endif  // CLI_FORM_FORM_VIEW_H
+#endif  // HOSTS_TERMINAL_FORM_VIEW_H

@@ -1,12 +1,12 @@
 // The keys of a terminal as those of the form.
-#ifndef CLI_FORM_TERMINAL_KEYS_H
-#define CLI_FORM_TERMINAL_KEYS_H
+#ifndef HOSTS_TERMINAL_TERMINAL_KEYS_H
+#define HOSTS_TERMINAL_TERMINAL_KEYS_H
 
 #include <optional>
 
-#include "cli/form/display.h"
+#include "hosts/terminal/display.h"
 
-namespace gabarito::cli {
+namespace gabarito::terminal {
 
 // Teaches ncurses the sequences that terminals send beyond what their description says.
 void DefineKeys();
@@ -17,6 +17,6 @@ std::optional<Input> InputOfKey(int code);
 // A character that a key typed; nothing for NUL, which no key of the form types.
 std::optional<Input> InputOfCharacter(char32_t character);
 
-}  // namespace gabarito::cli
+}  // namespace gabarito::terminal
 
-#endif  // CLI_FORM_TERMINAL_KEYS_H
+#endif  // HOSTS_TERMINAL_TERMINAL_KEYS_H

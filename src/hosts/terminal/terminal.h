@@ -1,18 +1,24 @@
 // A terminal with a screen, through ncursesw.
-#ifndef CLI_FORM_TERMINAL_H
-#define CLI_FORM_TERMINAL_H
+#ifndef HOSTS_TERMINAL_TERMINAL_H
+#define HOSTS_TERMINAL_TERMINAL_H
 
 #include <cstdio>
 #include <map>
 #include <memory>
+#include <stdexcept>
 #include <utility>
 
-#include "cli/form/display.h"
-#include "cli/form/signals.h"
+#include "hosts/terminal/display.h"
+#include "hosts/terminal/signals.h"
 
 struct screen;  // ncurses
 
-namespace gabarito::cli {
+namespace gabarito::terminal {
+
+// There is no terminal for a form; what() says why in one line.
+struct NoTerminal : std::runtime_error {
+  using std::runtime_error::runtime_error;
+};
 
 // Keys come from standard input. The form is drawn on standard output or, when that is no terminal because a
 // script collects it, on the controlling terminal. The terminal is as it was when the object is gone.
@@ -20,7 +26,7 @@ namespace gabarito::cli {
 // NO_COLOR leaves the colours away: entries are underlined then, and what is selected is reversed.
 class Terminal final : public Display {
  public:
-  // UsageError when there is no terminal, or one that cannot place its cursor.
+  // NoTerminal when there is no terminal, or one that cannot place its cursor.
   Terminal();
   ~Terminal() override;
   Terminal(const Terminal&) = delete;
@@ -52,6 +58,6 @@ class Terminal final : public Display {
   std::map<std::pair<int, int>, int> pairs_;
 };
 
-}  // namespace gabarito::cli
+}  // namespace gabarito::terminal
 
-#endif  // CLI_FORM_TERMINAL_H
+#endif  // HOSTS_TERMINAL_TERMINAL_H

@@ -1,6 +1,6 @@
 // A message box as a modal window over the form.
-#ifndef CLI_FORM_MESSAGE_BOX_H
-#define CLI_FORM_MESSAGE_BOX_H
+#ifndef HOSTS_TERMINAL_MESSAGE_BOX_H
+#define HOSTS_TERMINAL_MESSAGE_BOX_H
 
 #include <cstdint>
 #include <optional>
@@ -8,9 +8,12 @@
 #include <string_view>
 #include <vector>
 
-#include "cli/form/form_view.h"
+#include "hosts/terminal/form_view.h"
 
-namespace gabarito::cli {
+namespace gabarito::terminal {
+
+// The button that Enter presses first.
+std::int32_t DefaultButton(std::int32_t flags);
 
 class MessageBox {
  public:
@@ -46,6 +49,6 @@ class MessageBox {
 // always.
 std::vector<std::u32string> Wrapped(std::u32string_view text, int width);
 
-}  // namespace gabarito::cli
+}  // namespace gabarito::terminal
 
-#endif  // CLI_FORM_MESSAGE_BOX_H
+#endif  // HOSTS_TERMINAL_MESSAGE_BOX_H

@@ -1,9 +1,9 @@
-#include "cli/form/field_view.h"
+#include "hosts/terminal/field_view.h"
 
 #include <algorithm>
 #include <cmath>
 
-namespace gabarito::cli {
+namespace gabarito::terminal {
 namespace {
 
 // How the right end of an entry looks, and whether a line stands to its left.
@@ -161,4 +161,4 @@ void DrawList(Screen& screen, Point at, Rows rows, memory::ComboWidget& combo) {
            frame);
 }
 
-}  // namespace gabarito::cli
+}  // namespace gabarito::terminal

@@ -1,10 +1,10 @@
-#include "cli/form/grid.h"
+#include "hosts/terminal/grid.h"
 
 #include <algorithm>
 
-#include "cli/utf8.h"
+#include "hosts/memory/utf8.h"
 
-namespace gabarito::cli {
+namespace gabarito::terminal {
 
 Grid::Grid(int width, int height)
     : width_(std::max(width, 1)),
@@ -36,7 +36,7 @@ std::string Grid::Row(int y) const {
     }
   }
   row.erase(row.find_last_not_of(u' ') + 1);
-  return ToUtf8(row);
+  return memory::ToUtf8(row);
 }
 
 std::u32string ToCells(std::u16string_view text) {
@@ -59,4 +59,4 @@ std::u32string Shortened(std::u32string text, int width) {
   return text;
 }
 
-}  // namespace gabarito::cli
+}  // namespace gabarito::terminal

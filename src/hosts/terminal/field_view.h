@@ -1,10 +1,10 @@
 // Draws one field in one row of a screen, and the open list of a combo box over others.
-#ifndef CLI_FORM_FIELD_VIEW_H
-#define CLI_FORM_FIELD_VIEW_H
+#ifndef HOSTS_TERMINAL_FIELD_VIEW_H
+#define HOSTS_TERMINAL_FIELD_VIEW_H
 
-#include "cli/form/form_view.h"
+#include "hosts/terminal/form_view.h"
 
-namespace gabarito::cli {
+namespace gabarito::terminal {
 
 // The surface begins at `at`. Boxes of the 3D look stand between two upright lines, flat ones on a line below
 // them; each shows the part of its text around the caret. The child with the focus gives the screen its
@@ -20,6 +20,6 @@ struct Rows {
 // within `rows`, scrolled so that the selected entry is on show.
 void DrawList(Screen& screen, Point at, Rows rows, memory::ComboWidget& combo);
 
-}  // namespace gabarito::cli
+}  // namespace gabarito::terminal
 
-#endif  // CLI_FORM_FIELD_VIEW_H
+#endif  // HOSTS_TERMINAL_FIELD_VIEW_H

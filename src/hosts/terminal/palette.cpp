@@ -1,9 +1,9 @@
-#include "cli/form/palette.h"
+#include "hosts/terminal/palette.h"
 
 #include <algorithm>
 #include <cstdlib>
 
-namespace gabarito::cli {
+namespace gabarito::terminal {
 namespace {
 
 struct Shade {
@@ -71,4 +71,4 @@ bool IsDark(Color color) {
   return shade.red * 3 + shade.green * 6 + shade.blue < 1100;
 }
 
-}  // namespace gabarito::cli
+}  // namespace gabarito::terminal

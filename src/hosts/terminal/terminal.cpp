@@ -1,4 +1,4 @@
-#include "cli/form/terminal.h"
+#include "hosts/terminal/terminal.h"
 
 #define NCURSES_WIDECHAR 1
 #define NCURSES_NOMACROS 1
@@ -15,11 +15,10 @@
 #include <cstring>
 #include <string>
 
-#include "cli/form/palette.h"
-#include "cli/form/terminal_keys.h"
-#include "cli/properties.h"
+#include "hosts/terminal/palette.h"
+#include "hosts/terminal/terminal_keys.h"
 
-namespace gabarito::cli {
+namespace gabarito::terminal {
 namespace {
 
 // Milliseconds that ncurses waits for the rest of a character or of an escape sequence.
@@ -37,18 +36,18 @@ void UseUtf8() {
 }
 
 std::FILE* OpenScreen() {
-  if (isatty(STDIN_FILENO) == 0) throw UsageError("form: standard input is no terminal");
+  if (isatty(STDIN_FILENO) == 0) throw NoTerminal("standard input is no terminal");
   const int descriptor = isatty(STDOUT_FILENO) != 0 ? fcntl(STDOUT_FILENO, F_DUPFD_CLOEXEC, 3)
                                                     : open("/dev/tty", O_RDWR | O_CLOEXEC);
   std::FILE* const file = descriptor < 0 ? nullptr : fdopen(descriptor, "w");
-  if (file == nullptr) throw UsageError("form: there is no terminal to draw on");
+  if (file == nullptr) throw NoTerminal("there is no terminal to draw on");
   return file;
 }
 
 void CheckTerminalType(int descriptor) {
   const std::string_view type = Variable("TERM");
   if (type.empty() || type == "dumb") {
-    throw UsageError(std::string("form: needs a terminal that can place its cursor; TERM is ") +
+    throw NoTerminal(std::string("needs a terminal that can place its cursor; TERM is ") +
                      (type.empty() ? "not set" : "dumb"));
   }
   int known = 0;
@@ -56,9 +55,8 @@ void CheckTerminalType(int descriptor) {
   const bool found = setupterm(nullptr, descriptor, &known) == OK;
   const bool places = found && cursor_address != nullptr;
   if (found) del_curterm(cur_term);
-  if (!found) throw UsageError("form: the terminal type '" + std::string(type) + "' is not known");
-  if (!places)
-    throw UsageError("form: the terminal type '" + std::string(type) + "' cannot place its cursor");
+  if (!found) throw NoTerminal("the terminal type '" + std::string(type) + "' is not known");
+  if (!places) throw NoTerminal("the terminal type '" + std::string(type) + "' cannot place its cursor");
 }
 
 }  // namespace
@@ -70,7 +68,7 @@ Terminal::Terminal() : out_(OpenScreen()) {
   use_env(TRUE);
   use_tioctl(TRUE);
   screen_ = newterm(nullptr, out_.get(), stdin);
-  if (screen_ == nullptr) throw UsageError("form: the terminal cannot be set up");
+  if (screen_ == nullptr) throw NoTerminal("the terminal cannot be set up");
   signals_.Install();  // ncurses has put its own in: they would end the program from inside a handler
   SetUpKeys();
   SetUpColors();
@@ -195,4 +193,4 @@ void Terminal::FitWindow() {
   clearok(curscr, TRUE);
 }
 
-}  // namespace gabarito::cli
+}  // namespace gabarito::terminal

@@ -1,6 +1,6 @@
 // A screen as rows of cells, before any terminal: what the interactive form draws and its tests compare.
-#ifndef CLI_FORM_GRID_H
-#define CLI_FORM_GRID_H
+#ifndef HOSTS_TERMINAL_GRID_H
+#define HOSTS_TERMINAL_GRID_H
 
 #include <cstdint>
 #include <optional>
@@ -10,7 +10,7 @@
 
 #include "gabarito/platform/color.h"
 
-namespace gabarito::cli {
+namespace gabarito::terminal {
 
 // What a cell is part of, as a sum. A terminal without colours shows some of them by attributes.
 using Marks = std::uint8_t;
@@ -73,6 +73,6 @@ std::u32string ToCells(std::u16string_view text);
 // `text` in at most `width` cells, with "…" at the end when something is cut off.
 std::u32string Shortened(std::u32string text, int width);
 
-}  // namespace gabarito::cli
+}  // namespace gabarito::terminal
 
-#endif  // CLI_FORM_GRID_H
+#endif  // HOSTS_TERMINAL_GRID_H

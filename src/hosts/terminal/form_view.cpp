@@ -1,10 +1,10 @@
-#include "cli/form/form_view.h"
+#include "hosts/terminal/form_view.h"
 
 #include <algorithm>
 
-#include "cli/form/field_view.h"
+#include "hosts/terminal/field_view.h"
 
-namespace gabarito::cli {
+namespace gabarito::terminal {
 namespace {
 
 constexpr Color kTitle = 0x00800000;  // dark blue
@@ -90,4 +90,4 @@ Screen FormView::Draw(int width, int height) {
   return screen;
 }
 
-}  // namespace gabarito::cli
+}  // namespace gabarito::terminal

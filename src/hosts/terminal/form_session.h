@@ -1,18 +1,18 @@
 // One person at one form: takes input to the form, shows it, and answers its message boxes.
-#ifndef CLI_FORM_FORM_SESSION_H
-#define CLI_FORM_FORM_SESSION_H
+#ifndef HOSTS_TERMINAL_FORM_SESSION_H
+#define HOSTS_TERMINAL_FORM_SESSION_H
 
-#include "cli/form/display.h"
-#include "cli/form/form_model.h"
-#include "cli/form/form_view.h"
+#include "hosts/terminal/display.h"
+#include "hosts/terminal/form_model.h"
+#include "hosts/terminal/form_view.h"
 
-namespace gabarito::cli {
+namespace gabarito::terminal {
 
-class FormSession {
+class FormSession final : public Listener {
  public:
   // Both outlive the session.
   FormSession(FormModel& model, Display& display);
-  ~FormSession();
+  ~FormSession() override;
   FormSession(const FormSession&) = delete;
   FormSession& operator=(const FormSession&) = delete;
 
@@ -25,6 +25,9 @@ class FormSession {
   void Play(const Input& input);
   void Click(Point at);
   void AskToLeave();
+  std::int32_t Told(std::size_t line, std::u16string_view text, std::int32_t flags,
+                    std::optional<std::u16string_view> title) override;
+  void Beeped(std::size_t line) override;
   std::int32_t Ask(std::u16string_view text, std::int32_t flags, std::optional<std::u16string_view> title);
 
   FormModel& model_;
@@ -34,6 +37,6 @@ class FormSession {
   int boxes_ = 0;  // message boxes shown so far
 };
 
-}  // namespace gabarito::cli
+}  // namespace gabarito::terminal
 
-#endif  // CLI_FORM_FORM_SESSION_H
+#endif  // HOSTS_TERMINAL_FORM_SESSION_H

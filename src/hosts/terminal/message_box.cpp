@@ -1,11 +1,11 @@
-#include "cli/form/message_box.h"
+#include "hosts/terminal/message_box.h"
 
 #include <algorithm>
 
 #include "gabarito/platform/dialogs.h"
 #include "gabarito/platform/user32.h"
 
-namespace gabarito::cli {
+namespace gabarito::terminal {
 namespace {
 
 constexpr std::int32_t kYesNo = 4, kSecondButton = 256;
@@ -15,12 +15,17 @@ constexpr std::int16_t kVkLeft = 37, kVkUp = 38, kVkRight = 39, kVkDown = 40;
 
 }  // namespace
 
+std::int32_t DefaultButton(std::int32_t flags) {
+  if ((flags & kYesNo) == 0) return kAnswerOk;
+  return (flags & kSecondButton) != 0 ? kAnswerNo : kAnswerYes;
+}
+
 MessageBox::MessageBox(std::u16string_view text, std::int32_t flags, std::optional<std::u16string_view> title)
     : title_(ToCells(title.value_or(u"Gabarito"))), text_(ToCells(text)) {
   // The buttons in the order of the platform, so that Escape is the last one.
   if ((flags & kYesNo) != 0) {
     buttons_ = {{U"[ Sim ]", kAnswerYes}, {U"[ Não ]", kAnswerNo}};
-    chosen_ = (flags & kSecondButton) != 0 ? 1 : 0;
+    chosen_ = DefaultButton(flags) == kAnswerNo ? 1 : 0;
   } else {
     buttons_ = {{U"[ OK ]", kAnswerOk}};
   }
@@ -117,4 +122,4 @@ std::vector<std::u32string> Wrapped(std::u32string_view text, int width) {
   }
 }
 
-}  // namespace gabarito::cli
+}  // namespace gabarito::terminal

@@ -1,10 +1,10 @@
 // The colours of the field in those of a terminal.
-#ifndef CLI_FORM_PALETTE_H
-#define CLI_FORM_PALETTE_H
+#ifndef HOSTS_TERMINAL_PALETTE_H
+#define HOSTS_TERMINAL_PALETTE_H
 
 #include "gabarito/platform/color.h"
 
-namespace gabarito::cli {
+namespace gabarito::terminal {
 
 // The index of the colour that a terminal of 256, 16 or 8 colours has for `color`. System colours have fixed
 // shades: the window background is white, the face of buttons light grey, and on 8 colours, where both would
@@ -14,6 +14,6 @@ int TerminalColor(Color color, int colors);
 // Whether light text reads better on it.
 bool IsDark(Color color);
 
-}  // namespace gabarito::cli
+}  // namespace gabarito::terminal
 
-#endif  // CLI_FORM_PALETTE_H
+#endif  // HOSTS_TERMINAL_PALETTE_H

@@ -1,11 +1,11 @@
-#include "cli/form/signals.h"
+#include "hosts/terminal/signals.h"
 
 #include <poll.h>
 
 #include <cerrno>
 #include <iterator>
 
-namespace gabarito::cli {
+namespace gabarito::terminal {
 namespace {
 
 constexpr int kHandled[] = {SIGINT, SIGTERM, SIGHUP, SIGQUIT, SIGTSTP, SIGCONT, SIGWINCH};
@@ -92,4 +92,4 @@ void Signals::Stop() {
   sigaction(SIGTSTP, &mine, nullptr);
 }
 
-}  // namespace gabarito::cli
+}  // namespace gabarito::terminal

@@ -1,27 +1,26 @@
-# headers_alone(FOLDER TARGET): every header of src/FOLDER compiles alone against TARGET.
+# headers_alone(NAME): every header of the library Gabarito::NAME compiles alone against what that library may see.
 #
-# A header that its own source includes first is tried by the build itself;
-# for each other one a source that includes nothing else is made here.
-function(headers_alone folder target)
-  file(GLOB headers CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/${folder}/*.h)
+# A header that its own source includes first is tried by the build itself; for each other one a source that includes
+# nothing else is made here.
+function(headers_alone name)
+  get_target_property(headers gabarito_${name} GABARITO_HEADERS)
   set(sources "")
   foreach(header IN LISTS headers)
-    cmake_path(RELATIVE_PATH header BASE_DIRECTORY ${PROJECT_SOURCE_DIR}/src OUTPUT_VARIABLE name)
+    cmake_path(RELATIVE_PATH header BASE_DIRECTORY ${PROJECT_SOURCE_DIR}/src OUTPUT_VARIABLE path)
     string(REGEX REPLACE "\\.h$" ".cpp" own_source ${header})
     if(EXISTS ${own_source})
       file(STRINGS ${own_source} includes REGEX "^#include" LIMIT_COUNT 1)
-      if(includes STREQUAL "#include \"${name}\"")
+      if(includes STREQUAL "#include \"${path}\"")
         continue()
       endif()
     endif()
-    set(source ${CMAKE_CURRENT_BINARY_DIR}/${name}.cpp)
-    file(CONFIGURE OUTPUT ${source} CONTENT "#include \"${name}\"\n")
+    set(source ${CMAKE_CURRENT_BINARY_DIR}/${path}.cpp)
+    file(CONFIGURE OUTPUT ${source} CONTENT "#include \"${path}\"\n")
     list(APPEND sources ${source})
   endforeach()
   if(sources)
-    string(MAKE_C_IDENTIFIER headers_${folder} library)
-    add_library(${library} OBJECT ${sources})
-    target_link_libraries(${library} PRIVATE ${target})
-    gabarito_options(${library})
+    add_library(headers_${name} OBJECT ${sources})
+    target_link_libraries(headers_${name} PRIVATE Gabarito::${name})
+    gabarito_options(headers_${name})
   endif()
 endfunction()

@@ -1,6 +1,8 @@
 # cmake -D WAY=installed|subproject -D BUILD=... -D SOURCES=... -D WORK=... -P run.cmake
 #
 # Builds the outside project in WORK in one of the two ways and compares what it prints.
+cmake_minimum_required(VERSION 3.25)
+
 set(expected "111.444.777-35\n")
 
 # Runs a command; its output goes to `output`.
@@ -33,7 +35,20 @@ run(${CMAKE_COMMAND} --build ${WORK}/build --target outside --parallel 2)
 run(${WORK}/build/outside)
 compare("the outside project")
 if(WAY STREQUAL "subproject")
+  # A file system without symbolic links has to do.
+  file(GLOB_RECURSE files LIST_DIRECTORIES TRUE ${WORK}/build/*)
+  foreach(file IN LISTS files)
+    if(IS_SYMLINK ${file})
+      message(FATAL_ERROR "${file} is a symbolic link")
+    endif()
+  endforeach()
   return()
+endif()
+
+file(GLOB_RECURSE archives RELATIVE ${prefix} ${prefix}/*.a)
+list(TRANSFORM archives REPLACE "^.*/" "")
+if(NOT "libgabarito.a" IN_LIST archives OR archives MATCHES "_(platform|control)")
+  message(FATAL_ERROR "installed archives: ${archives}")
 endif()
 
 # The program, its completion and its manual page.

@@ -11,6 +11,7 @@
 #include "cli/commands.h"
 #include "cli/line_reader.h"
 #include "cli/properties.h"
+#include "cli/script/script.h"
 #include "gabarito/control/interface.h"
 #include "gabarito/platform/erro.h"
 
@@ -148,6 +149,14 @@ TEST(Field, RefusesACommandThatIsWrong) {
   EXPECT_THROW(Field({{"gbCPF", {}}, {}, "{TAB 40000}"}), Erro);
 }
 // clang-format on
+
+TEST(Script, TakesAByteOrderMarkAndBlanksInFrontOfALine) {
+  std::istringstream in("\xEF\xBB\xBFnew\n  \t# a remark\n\t get Mask\n \n  \xEF\xBB\xBFget Mask\n");
+  std::ostringstream out, err;
+  EXPECT_EQ(RunScript(in, out, err), 2);
+  EXPECT_TRUE(out.str().ends_with("\n{\"get\":\"Mask\",\"value\":100}\n")) << out.str();
+  EXPECT_EQ(err.str(), "gabarito script: line 5: unknown action '\xEF\xBB\xBFget'\n");
+}
 
 TEST(Masks, ListsTheKindsAndTheMembersOfTheClass) {
   std::ostringstream text, json;

@@ -1,5 +1,6 @@
 #include "cli/script/script.h"
 
+#include <algorithm>
 #include <istream>
 #include <ostream>
 #include <stdexcept>
@@ -13,6 +14,9 @@
 
 namespace gabarito::cli {
 namespace {
+
+// Some editors put it in front of a text in UTF-8.
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 // Cuts the first word off `rest`; one blank parts it from what is left.
 std::string_view Word(std::string_view& rest) {
@@ -116,7 +120,8 @@ Script::Script(std::ostream& out)
 
 void Script::Line(std::string_view line) {
   if (line.ends_with('\r')) line.remove_suffix(1);
-  if (line.empty() || line.front() == '#' || line.find_first_not_of(" \t") == std::string_view::npos) return;
+  line.remove_prefix(std::min(line.find_first_not_of(" \t"), line.size()));
+  if (line.empty() || line.front() == '#') return;
   const std::string_view name = Word(line);
   const Action* const action = Find(name);
   if (action == nullptr) throw UsageError("unknown action '" + std::string(name) + "'");
@@ -375,6 +380,7 @@ int RunScript(std::istream& in, std::ostream& out, std::ostream& err) {
   Script script(out);
   std::string line;
   for (std::size_t number = 1; std::getline(in, line); ++number) {
+    if (number == 1 && line.starts_with(kByteOrderMark)) line.erase(0, kByteOrderMark.size());
     try {
       script.Line(line);
     } catch (const UsageError& fault) {

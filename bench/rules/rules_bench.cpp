@@ -151,7 +151,7 @@ bool ValidaCartao(std::u16string_view s) { return ValidaCartaoCredito(s, kRegion
 template <FormaDeNumero kForma>
 std::u16string Formata(std::u16string_view s) {
   static CacheDeArredonda cache;
-  return FormataComoReal(s, kForma, kKernel32, kRegional, cache);
+  return FormataComoReal(s, kForma, kKernel32, cache);
 }
 
 const struct {

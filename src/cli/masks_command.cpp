@@ -25,20 +25,39 @@ std::string_view NameOf(TipoDeMembro tipo) {
   return "";
 }
 
+void AddArguments(Json& listed, const Membro& member) {
+  for (const Parametro& argument : member.parametros) {
+    listed["arguments"].push_back(
+        {{"name", argument.nome}, {"type", argument.tipo}, {"byReference", argument.porReferencia}});
+  }
+}
+
 void WriteJson(std::ostream& out) {
   Json kinds = Json::array();
   for (const Especie& kind : Especies()) {
     kinds.push_back({{"name", kind.nome}, {"number", kind.valor}, {"takes", kind.toma}});
   }
-  // In the published order, which hosts that list properties keep.
+  // In an order that stays, which hosts that list properties keep.
   Json members = Json::array();
   for (const Membro& member : MembrosDaInterface()) {
     members.push_back({{"name", member.nome}, {"is", NameOf(member.tipo)}});
     if (!member.valor.empty()) members.back()["type"] = member.valor;
+    AddArguments(members.back(), member);
   }
   Json events = Json::array();
-  for (const Membro& event : Eventos()) events.push_back({{"name", event.nome}});
-  out << Json{{"masks", kinds}, {"members", members}, {"events", events}}.dump(2) << '\n';
+  for (const Membro& event : Eventos()) {
+    events.push_back({{"name", event.nome}});
+    AddArguments(events.back(), event);
+  }
+  Json enumerations = Json::object();
+  for (const Enumeracao& enumeration : Enumeracoes()) {
+    for (const Constante& constant : enumeration.constantes) {
+      enumerations[std::string(enumeration.nome)][std::string(constant.nome)] = constant.valor;
+    }
+  }
+  out << Json{{"masks", kinds}, {"members", members}, {"events", events}, {"enumerations", enumerations}}
+             .dump(2)
+      << '\n';
 }
 
 void WriteText(std::ostream& out) {

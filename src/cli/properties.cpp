@@ -143,7 +143,7 @@ const Property& Find(std::string_view name) {
   throw UsageError("there is no property " + Quoted(name));
 }
 
-// The published type of a property.
+// The type of a property, as the type information names it.
 std::string_view TypeOf(std::string_view name) {
   for (const Membro& member : MembrosDaInterface()) {
     if (member.nome == name) return member.valor;

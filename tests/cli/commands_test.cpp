@@ -169,7 +169,12 @@ TEST(Masks, ListsTheKindsAndTheMembersOfTheClass) {
   EXPECT_EQ(lists["masks"][3]["number"], 130);
   EXPECT_EQ(lists["members"].size(), MembrosDaInterface().size());
   EXPECT_EQ(lists["members"][2], Json::parse(R"({"name":"MaxLength","is":"property","type":"int16"})"));
-  EXPECT_EQ(lists["events"][0]["name"], "KeyUp");
+  EXPECT_EQ(lists["members"][13]["arguments"][0]["name"], "s") << lists["members"][13];
+  EXPECT_EQ(lists["members"][14]["type"], "Appearance");
+  EXPECT_EQ(lists["enumerations"], Json::parse(R"({"Appearance":{"Flat":0,"3D":1}})"));
+  EXPECT_EQ(lists["events"], Json::parse(R"([{"name":"KeyUp","arguments":[
+      {"name":"KeyCode","type":"int16","byReference":true},
+      {"name":"Shift","type":"int16","byReference":true}]}])"));
 }
 
 }  // namespace

@@ -110,7 +110,9 @@ TEST(Sweep, AnExitOfALoadedValueGoesOn) {
           {gbListaNoCombo, u"abc"},
           {gbEstado, u"MG"},
           {gbEnderecoEmail, u"a@b.com"},
-          {gbCEP, u"30140-010", {{11, "E0.Text E1.Text E1.Text"}, {13, ""}, {14, ""}, {15, ""}}},
+          {gbCEP,
+           u"30140-010",
+           {{11, "E0.Text E1.Text E0.Text E1.Text"}, {13, "E0.Text"}, {14, "E0.Text"}, {15, ""}, {16, ""}}},
           {gbCidadeEstado, u"Ita/MG", {{1, "E0.Text Combo1.Text"}, {5, ""}}},
           {gbIntervaloNumerico, u"1#2", {{7, ""}}},
       },
@@ -220,13 +222,13 @@ TEST(Sweep, AKeyGoesOn) {
     const char* nome;
     std::int16_t codigo;
     Passo prepara;
-    std::string sem_texto = {};  // what follows when the box does not give its text: no limit is asked for
+    std::string sem_texto = {};  // what follows when the box does not give its text to the judgement
     std::int16_t caixa = 0;
   };
   const Tecla teclas[] = {
       {"letter", 'a', Como(gbNenhuma), "E0.Text t0.Text="},
-      {"letter to a full box", '3', Digitado(gbData, u"12"), "E0.Text t0.Text="},
-      {"last digit", '2', Digitado(gbData, u"1"), "E0.Text t0.Text="},
+      {"letter to a full box", '3', Digitado(gbData, u"12"), "E0.Text E0.MaxLength E0.Text t0.Text="},
+      {"last digit", '2', Digitado(gbData, u"1"), "E0.Text E0.MaxLength Host.SendInput= E0.Text t0.Text="},
       {"refused letter", 'x', Como(gbData), "Host.Beep= E0.Text t0.Text="},
       {"jump", '-', Como(gbCEP), "foco1 Host.KeyUp= E0.Text t0.Text="},
       {"jump without a box", '-', Como(gbCPF), "E1.SetFocus= Host.KeyUp= E0.Text t0.Text="},

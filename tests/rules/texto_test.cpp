@@ -73,11 +73,8 @@ memory::SettableKernel Sistema(std::u16string_view decimal, std::u16string_view 
 
 std::u16string Formata(std::u16string_view valor, FormaDeNumero forma,
                        const memory::SettableKernel& sistema = Sistema(u",", u".")) {
-  Regional regional;
-  regional.decimal = SeparadorDecimal(sistema);
-  regional.thousands = SeparadorDeMilhar(sistema);
   CacheDeArredonda cache;
-  return FormataComoReal(valor, forma, sistema, regional, cache);
+  return FormataComoReal(valor, forma, sistema, cache);
 }
 
 TEST(FormataComoReal, NormalisesWhatWasTyped) {
@@ -100,7 +97,9 @@ TEST(FormataComoReal, FollowsItsStepsUnderAnySeparatorsAndSkipsThoseThatALongTex
   ExpectEach<std::u16string>({{Formata(longo, kMoeda), longo + u",00"},
                               {Formata(numero, kMoeda, Sistema(u".", u",")), u"1,234.57"},
                               {Formata(numero, kMoeda, Sistema(u",", u",")), u"1,23"},
-                              {Formata(numero, kMoeda, Sistema(u"", u"")), u"34"},
+                              {Formata(numero, kMoeda, Sistema(u"", u"")), u"123456700"},
+                              {Formata(u"0.5", kReal, Sistema(u"", u".")), u"5"},
+                              {Formata(u"12,5", kVersao, Sistema(u",", u"")), u"125"},
                               {Formata(numero, kMoeda, Sistema(u",,", u"..")), u"1,234.567,,00"}});
 }
 

@@ -86,6 +86,8 @@ std::uint32_t Number(std::span<const std::uint8_t> file, std::size_t at) {
   return file[at] | file[at + 1] << 8 | file[at + 2] << 16 | std::uint32_t{file[at + 3]} << 24;
 }
 
+static_assert(kRegistrationFlags == 0x00020191);
+
 TEST(Resources, TheToolboxPictureIsABitmapFile) {
   const auto file = LoadResPicture(kToolboxPicture);
   ASSERT_EQ(file.size(), 54u + 16 * 15 * 3);

@@ -79,7 +79,7 @@ constexpr Especie kEspecies[] = {
     {gbTelefone, "gbTelefone", "a telephone number",
      LayoutSimples, CarregaTelefone, SaiDoTelefone, kTelefone},
     {gbDefUsr, "gbDefUsr", "a mask of the author's own, in MaskText",
-     LayoutDefUsr, CarregaDefUsr, SaiDoDefUsr, kTodas},
+     LayoutDefUsr, CarregaDefUsr, SaiDoDefUsr, kTodas, FimDaEscrita::kPula},
     {gbVersao, "gbVersao", "a version number",
      LayoutSimples, CarregaReal, SaiDoReal, kNumero},
     {gbListaNoCombo, "gbListaNoCombo", "one word of the list in ComboItens",

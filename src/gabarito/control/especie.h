@@ -11,6 +11,12 @@
 
 namespace gabarito {
 
+// What becomes of a failure behind the load of a value, when the write of Text is reported.
+enum class FimDaEscrita {
+  kConta,  // told in the message box, as a failure of the load is
+  kPula    // skipped: the load is in skip-on-error mode, which lasts to the end of the write
+};
+
 struct Especie {
   std::int32_t valor;  // an EMascaras; 0 in the default row
   std::string_view nome;
@@ -19,6 +25,7 @@ struct Especie {
   void (*carrega)(Campo&, std::u16string_view dado);
   void (*sai)(Campo&);
   RegraDeTecla regra;
+  FimDaEscrita fim = FimDaEscrita::kConta;
 };
 
 // The 23 kinds in the order of their values.

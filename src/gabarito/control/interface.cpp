@@ -3,6 +3,9 @@
 namespace gabarito {
 namespace {
 
+constexpr Parametro kDeTiraAcento[] = {{"s", "string"}};
+constexpr Parametro kDeKeyUp[] = {{"KeyCode", "int16", true}, {"Shift", "int16", true}};
+
 constexpr Membro kMembros[] = {
     {"ApagaCampos", TipoDeMembro::kMetodo, ""},
     {"Sobre", TipoDeMembro::kMetodo, ""},
@@ -17,17 +20,21 @@ constexpr Membro kMembros[] = {
     {"MaskText", TipoDeMembro::kPropriedade, "string"},
     {"UsarFundoPastel", TipoDeMembro::kPropriedade, "boolean"},
     {"PreencherDatasInvalidasComDataDeHoje", TipoDeMembro::kPropriedade, "boolean"},
-    {"pfTiraAcentoDeFrase", TipoDeMembro::kFuncao, "string"},
-    {"Appearance", TipoDeMembro::kPropriedade, "int32"},
+    {"pfTiraAcentoDeFrase", TipoDeMembro::kFuncao, "string", kDeTiraAcento},
+    {"Appearance", TipoDeMembro::kPropriedade, "Appearance"},
     {"Font", TipoDeMembro::kPropriedade, "font"},
     {"TrataEnterComoTab", TipoDeMembro::kPropriedade, "boolean"},
 };
 
-constexpr Membro kEventos[] = {{"KeyUp", TipoDeMembro::kMetodo, ""}};
+constexpr Membro kEventos[] = {{"KeyUp", TipoDeMembro::kMetodo, "", kDeKeyUp}};
+
+constexpr Constante kAparencias[] = {{"Flat", 0}, {"3D", 1}};
+constexpr Enumeracao kEnumeracoes[] = {{"Appearance", kAparencias}};
 
 }  // namespace
 
 std::span<const Membro> MembrosDaInterface() { return kMembros; }
 std::span<const Membro> Eventos() { return kEventos; }
+std::span<const Enumeracao> Enumeracoes() { return kEnumeracoes; }
 
 }  // namespace gabarito

@@ -23,8 +23,15 @@ void EscreveText(Campo& c, std::u16string_view dado) {
     c.mEntrada1->Text(u"");
     c.mEntrada2->Text(u"");
     c.mEntrada3->Text(u"");
-    EspecieDe(c.mMask).carrega(c, copia);
-    c.UserControl->PropertyChanged(u"Text");
+    const Especie& especie = EspecieDe(c.mMask);
+    especie.carrega(c, copia);
+    const auto avisa = [&] { c.UserControl->PropertyChanged(u"Text"); };
+    if (especie.fim == FimDaEscrita::kPula) {
+      PulaErros pula;
+      pula(avisa);
+    } else {
+      avisa();
+    }
   } catch (const Erro& erro) {
     ContaErro(c, erro);
   }

@@ -3,12 +3,20 @@
 #include "gabarito/keyinject/send_input.h"
 #include "gabarito/platform/pula_erros.h"
 #include "gabarito/platform/text.h"
+#include "gabarito/rules/texto.h"
 
 namespace gabarito {
 namespace {
 
 void Envia(Campo& c, PulaErros& pula, std::u16string_view teclas) {
   pula([&] { SendKeyString(*c.User32, *c.Kernel32, *c.Dialogs, teclas, true); });
+}
+
+// Counts are 16-bit: one beyond 32,767 is a read that fails, which leaves 0. It is not thrown, for it would
+// be thrown again at each key of a long text.
+std::int16_t Contagem(std::int32_t lida) {
+  constexpr std::int32_t kMaior = kMaiorTextoPercorrido;
+  return lida > kMaior ? std::int16_t{0} : static_cast<std::int16_t>(lida);
 }
 
 // A box that is not on show refuses the focus, and the key is swallowed all the same.
@@ -31,10 +39,10 @@ void Salta(Campo& c, PulaErros& pula, std::int16_t Index, std::int16_t& KeyAscii
 void EntradaKeyPress(Campo& c, const RegraDeTecla& regra, TextBox& txt, std::int16_t Index,
                      std::int16_t& KeyAscii) {
   PulaErros pula;
-  std::int32_t inicio = 0;
-  std::int32_t selecao = 0;
-  pula([&] { inicio = txt.SelStart(); });
-  pula([&] { selecao = txt.SelLength(); });
+  std::int16_t inicio = 0;
+  std::int16_t selecao = 0;
+  pula([&] { inicio = Contagem(txt.SelStart()); });
+  pula([&] { selecao = Contagem(txt.SelLength()); });
   if (KeyAscii == kVkBack && inicio == 0 && selecao == 0) {
     KeyAscii = 0;
     Envia(c, pula, u"+{TAB}");
@@ -51,15 +59,22 @@ void EntradaKeyPress(Campo& c, const RegraDeTecla& regra, TextBox& txt, std::int
     return;
   }
 
-  // A text or a limit that the box does not give leaves out what compares them; the key is judged by itself.
-  std::u16string_view texto;
-  std::int32_t limite = -1;
-  if (pula([&] { texto = txt.Text(); })) pula([&] { limite = txt.MaxLength(); });
-  const std::int32_t tamanho = Len(texto);
-  const bool substituiTudo = selecao == tamanho && tamanho > 0;
+  // A text that the box does not give, or one too long to count, leaves the key to be judged by itself.
+  std::u16string_view antes;  // what the candidate text holds in front of the key
+  bool substituiTudo = false;
+  bool cheia = false;
+  pula([&] {
+    const std::u16string_view texto = txt.Text();
+    if (texto.size() > kMaiorTextoPercorrido) return;
+    const std::int32_t tamanho = Len(texto);
+    substituiTudo = selecao == tamanho && tamanho > 0;
+    if (substituiTudo) return;
+    antes = texto;
+    cheia = tamanho == txt.MaxLength();
+  });
   Desfecho desfecho = Desfecho::kPassa;
-  pula([&] { desfecho = Julga(regra, Index, substituiTudo ? std::u16string_view() : texto, Chr(KeyAscii)); });
-  if (!substituiTudo && tamanho == limite) pula([&] { c.Dialogs->Beep(); });
+  pula([&] { desfecho = Julga(regra, Index, antes, Chr(KeyAscii)); });
+  if (cheia) pula([&] { c.Dialogs->Beep(); });
   if (desfecho == Desfecho::kRejeita) {
     pula([&] { c.Dialogs->Beep(); });
     KeyAscii = 0;
@@ -69,8 +84,14 @@ void EntradaKeyPress(Campo& c, const RegraDeTecla& regra, TextBox& txt, std::int
     Salta(c, pula, Index, KeyAscii);
     return;
   }
-  // The Tab is queued: it comes behind this key, which lands in the segment first.
-  if (!substituiTudo && Index != c.mSegmentos - 1 && tamanho + 1 == limite) Envia(c, pula, u"{TAB}");
+  // Read anew, so that a read that failed above does not keep the focus in a segment that is now full. The
+  // Tab is queued: it comes behind this key, which lands in the segment first.
+  const auto enche = [&] {
+    if (Index == c.mSegmentos - 1) return false;
+    const std::int32_t n = Len(txt.Text()) + 1;
+    return n <= std::int32_t{kMaiorTextoPercorrido} && n == txt.MaxLength();
+  };
+  if (!substituiTudo && pula.Se(enche)) Envia(c, pula, u"{TAB}");
 }
 
 void KeyPressDaCaixa(Campo& c, const RegraDeTecla& regra, TextBox& txt, TextBox& gemea, std::int16_t Index,

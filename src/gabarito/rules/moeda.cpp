@@ -21,37 +21,39 @@ using DoisDigitos = std::array<char16_t, kCasasDeMoeda>;
 // A double holds this many decimal digits without loss.
 constexpr std::size_t kDigitosExatos = 15;
 
-// A separator as the system gives it; a plain array, for each call reads two of them.
-struct Separador {
-  std::array<char16_t, 10> caracteres;
-  std::size_t tamanho = 0;
-
-  std::u16string_view Texto() const { return {caracteres.data(), tamanho}; }
-  operator std::u16string_view() const { return Texto(); }
-
-  // One character that is no digit, as in every usual region.
-  bool EhMarca() const { return tamanho == 1 && !EhDigito(caracteres[0]); }
-};
-
 struct Separadores {
-  Separador decimal;
-  Separador milhar;
+  std::u16string decimal;
+  std::u16string milhar;
+
+  // The region that these two make: what reads and writes numbers goes by the same marks.
+  Regional Regiao() const {
+    Regional regiao;
+    regiao.decimal = decimal;
+    regiao.thousands = milhar;
+    return regiao;
+  }
 };
 
-// Filled in place: a copy of characters just written would wait for the writes.
-void LeSeparador(const Kernel32& kernel32, std::int32_t item, Separador& separador) {
+std::u16string Separador(const Kernel32& kernel32, std::int32_t item) {
   std::array<char, 10> buffer;
   buffer.fill('a');
   const std::int32_t escritos = kernel32.GetLocaleInfoA(kLocaleUserDefault, item, buffer);
+  if (escritos <= 0) return {};
   // The count includes the terminating zero; a host that counts more than it was given is cut.
-  if (escritos > 0) separador.tamanho = std::min(static_cast<std::size_t>(escritos) - 1, buffer.size());
-  for (std::size_t i = 0; i < separador.tamanho; ++i) {
-    separador.caracteres[i] = Chr(static_cast<unsigned char>(buffer[i]));
+  std::u16string separador(std::min(static_cast<std::size_t>(escritos) - 1, buffer.size()), u' ');
+  for (std::size_t i = 0; i < separador.size(); ++i) {
+    separador[i] = Chr(static_cast<unsigned char>(buffer[i]));
   }
+  return separador;
 }
 
-// Positions are 16-bit: a separator further out is an overflow.
+// One character that is no digit, as in every usual region.
+bool EhMarca(std::u16string_view separador) { return separador.size() == 1 && !EhDigito(separador[0]); }
+
+// 0 where there is none, and for a separator that the region leaves empty. Positions are 16-bit: one further
+// out is an overflow.
 std::int32_t PosicaoDoSeparador(std::u16string_view valor, std::u16string_view separador) {
+  if (separador.empty()) return 0;
   const std::int32_t posicao = InStr(valor, separador);
   if (posicao > static_cast<std::int32_t>(kMaiorTextoPercorrido)) throw Erro(kOverflow);
   return posicao;
@@ -72,24 +74,24 @@ std::size_t DigitosNoComeco(std::u16string_view texto) {
 
 // Digits with at most one decimal mark are clean and ungrouped as they stand: one look parts them.
 bool ParteSimples(std::u16string_view valor, const Separadores& sep, Pecas& pecas) {
-  if (!sep.decimal.EhMarca() || !sep.milhar.EhMarca() || valor.size() > kMaiorTextoPercorrido) return false;
+  if (!EhMarca(sep.decimal) || !EhMarca(sep.milhar) || valor.size() > kMaiorTextoPercorrido) return false;
   const std::size_t marca = DigitosNoComeco(valor);
   pecas.inteira = valor.substr(0, marca);
   if (marca == valor.size()) return true;
   pecas.fracao = valor.substr(marca + 1);
-  if (valor[marca] != sep.decimal.caracteres[0]) return false;
+  if (valor[marca] != sep.decimal[0]) return false;
   if (DigitosNoComeco(pecas.fracao) != pecas.fracao.size()) return false;
   if (pecas.inteira.find_first_not_of(u'0') == pecas.inteira.npos) pecas.inteira = u"0";
   return true;
 }
 
 // The same for every text, one step after the other.
-void PartePorPassos(std::u16string_view valor, FormaDeNumero forma, const Separadores& sep,
-                    const Regional& regional, PulaErros& pula, Pecas& pecas) {
+void PartePorPassos(std::u16string_view valor, FormaDeNumero forma, const Separadores& sep, PulaErros& pula,
+                    Pecas& pecas) {
   std::u16string limpo(valor);
   pula([&] {
     std::u16string conjunto = u"0123456789";
-    conjunto.append(sep.decimal.Texto()).append(sep.milhar.Texto());
+    conjunto.append(sep.decimal).append(sep.milhar);
     limpo = SoCaracteres(valor, conjunto);
   });
 
@@ -106,9 +108,9 @@ void PartePorPassos(std::u16string_view valor, FormaDeNumero forma, const Separa
     inteira = Left(limpo, posicao - 1);
     if (Val(inteira) < 1) inteira = u"0";
   }
-  if (InStr(inteira, sep.milhar) > 0) {
+  if (!sep.milhar.empty() && InStr(inteira, sep.milhar) > 0) {
     inteira = Substitui(inteira, sep.milhar, u"");
-    pula([&] { inteira = FormatNumber(inteira, u"#,#", regional); });
+    pula([&] { inteira = FormatNumber(inteira, u"#,#", sep.Regiao()); });
   }
   pecas.copia = inteira + fracao;
   pecas.inteira = std::u16string_view(pecas.copia).substr(0, inteira.size());
@@ -117,10 +119,9 @@ void PartePorPassos(std::u16string_view valor, FormaDeNumero forma, const Separa
 
 // Up to 15 digits the decimal arithmetic of Arredonda is exact, so the third digit decides alone and the
 // text needs no conversion. Marks that could read as anything but a mark take the long way.
-bool BastaATerceiraCasa(std::u16string_view fracao, std::u16string_view decimal, const Regional& regional) {
-  return fracao.size() <= kDigitosExatos && (decimal == u"," || decimal == u".") &&
-         decimal == regional.decimal && decimal != regional.thousands &&
-         DigitosNoComeco(fracao) == fracao.size();
+bool BastaATerceiraCasa(std::u16string_view fracao, const Separadores& sep) {
+  return fracao.size() <= kDigitosExatos && (sep.decimal == u"," || sep.decimal == u".") &&
+         sep.decimal != sep.milhar && DigitosNoComeco(fracao) == fracao.size();
 }
 
 DoisDigitos CentavosPelaTerceiraCasa(std::u16string_view fracao) {
@@ -132,66 +133,52 @@ DoisDigitos CentavosPelaTerceiraCasa(std::u16string_view fracao) {
 }
 
 // A result without decimals, 0 or a whole unit, gives "00".
-DoisDigitos CentavosPeloNumero(std::u16string_view fracao, std::u16string_view decimal,
-                               const Regional& regional, CacheDeArredonda& cache) {
-  std::u16string texto = u"0";
-  texto.append(decimal).append(fracao);
-  const double arredondado = Arredonda(cache, ToDouble(texto, regional), kCasasDeMoeda);
-  const std::u16string resultado = NumberToText(arredondado, regional.decimal);
-  const std::int32_t marca = InStr(resultado, regional.decimal);
+DoisDigitos CentavosPeloNumero(std::u16string_view fracao, const Separadores& sep, CacheDeArredonda& cache) {
+  const std::u16string texto = (u"0" + sep.decimal).append(fracao);
+  const double arredondado = Arredonda(cache, ToDouble(texto, sep.Regiao()), kCasasDeMoeda);
+  const std::u16string resultado = NumberToText(arredondado, sep.decimal);
+  const std::int32_t marca = InStr(resultado, sep.decimal);
   DoisDigitos centavos = {u'0', u'0'};
   if (marca > 0) std::ranges::copy(Mid(resultado, marca + 1, kCasasDeMoeda), centavos.begin());
   return centavos;
 }
 
-DoisDigitos Centavos(std::u16string_view fracao, std::u16string_view decimal, const Regional& regional,
-                     CacheDeArredonda& cache) {
+DoisDigitos Centavos(std::u16string_view fracao, const Separadores& sep, CacheDeArredonda& cache) {
   if (Grandeza(fracao) == 0) return {u'0', u'0'};
   if (fracao.size() == 1) return {fracao[0], u'0'};
-  if (BastaATerceiraCasa(fracao, decimal, regional)) return CentavosPelaTerceiraCasa(fracao);
-  return CentavosPeloNumero(fracao, decimal, regional, cache);
+  if (BastaATerceiraCasa(fracao, sep)) return CentavosPelaTerceiraCasa(fracao);
+  return CentavosPeloNumero(fracao, sep, cache);
 }
 
 }  // namespace
 
-std::u16string SeparadorDecimal(const Kernel32& kernel32) {
-  Separador separador;
-  LeSeparador(kernel32, kLocaleDecimal, separador);
-  return std::u16string(separador.Texto());
-}
+std::u16string SeparadorDecimal(const Kernel32& kernel32) { return Separador(kernel32, kLocaleDecimal); }
 
-std::u16string SeparadorDeMilhar(const Kernel32& kernel32) {
-  Separador separador;
-  LeSeparador(kernel32, kLocaleThousands, separador);
-  return std::u16string(separador.Texto());
-}
+std::u16string SeparadorDeMilhar(const Kernel32& kernel32) { return Separador(kernel32, kLocaleThousands); }
 
 std::u16string FormataComoReal(std::u16string_view valor, FormaDeNumero forma, const Kernel32& kernel32,
-                               const Regional& regional, CacheDeArredonda& cache) {
+                               CacheDeArredonda& cache) {
   PulaErros pula;
   Separadores sep;
-  pula([&] { LeSeparador(kernel32, kLocaleDecimal, sep.decimal); });
-  pula([&] { LeSeparador(kernel32, kLocaleThousands, sep.milhar); });
+  pula([&] { sep.decimal = SeparadorDecimal(kernel32); });
+  pula([&] { sep.milhar = SeparadorDeMilhar(kernel32); });
 
   Pecas pecas;
-  if (!ParteSimples(valor, sep, pecas)) PartePorPassos(valor, forma, sep, regional, pula, pecas);
+  if (!ParteSimples(valor, sep, pecas)) PartePorPassos(valor, forma, sep, pula, pecas);
 
   DoisDigitos centavos;
   if (forma == FormaDeNumero::kMoeda && !(pecas.inteira.empty() && pecas.fracao.empty())) {
     pula([&] {
-      centavos = Centavos(pecas.fracao, sep.decimal, regional, cache);
+      centavos = Centavos(pecas.fracao, sep, cache);
       pecas.fracao = std::u16string_view(centavos.data(), centavos.size());
     });
   }
 
-  const Separador& juncao = forma == FormaDeNumero::kVersao ? sep.milhar : sep.decimal;
-  if (pecas.fracao.empty()) return std::u16string(pecas.inteira);
-  const std::size_t tamanho = pecas.inteira.size() + juncao.tamanho + pecas.fracao.size();
-  std::u16string resultado(tamanho, u'0');
-  std::size_t i = 0;
-  for (const char16_t c : pecas.inteira) resultado[i++] = c;
-  for (const char16_t c : juncao.Texto()) resultado[i++] = c;
-  for (const char16_t c : pecas.fracao) resultado[i++] = c;
+  std::u16string resultado;
+  const std::u16string& juncao = forma == FormaDeNumero::kVersao ? sep.milhar : sep.decimal;
+  resultado.reserve(pecas.inteira.size() + juncao.size() + pecas.fracao.size());
+  resultado.append(pecas.inteira);
+  if (!pecas.fracao.empty()) resultado.append(juncao).append(pecas.fracao);
   return resultado;
 }
 

@@ -6,13 +6,13 @@
 #include <string_view>
 
 #include "gabarito/platform/kernel32.h"
-#include "gabarito/platform/regional.h"
 #include "gabarito/rules/arredonda.h"
 
 namespace gabarito {
 
 // The user's decimal mark and thousands separator, asked of the system on each call: at most 9 characters,
-// the empty text when the system gives none.
+// the empty text when the system gives none. A number is not parted, grouped or regrouped at a mark that is
+// empty.
 std::u16string SeparadorDecimal(const Kernel32& kernel32);
 std::u16string SeparadorDeMilhar(const Kernel32& kernel32);
 
@@ -30,7 +30,7 @@ enum class FormaDeNumero {
 // Raises nothing: a step that fails is skipped. So a text of more than 32767 characters keeps what should
 // have fallen out, and it has no fraction if its decimal mark stands beyond that position.
 std::u16string FormataComoReal(std::u16string_view valor, FormaDeNumero forma, const Kernel32& kernel32,
-                               const Regional& regional, CacheDeArredonda& cache);
+                               CacheDeArredonda& cache);
 
 }  // namespace gabarito
 

@@ -1,5 +1,6 @@
 #include "gabarito/value/datas.h"
 
+#include <initializer_list>
 #include <string>
 
 #include "gabarito/platform/format.h"
@@ -16,10 +17,12 @@ constexpr std::u16string_view kDiaMesAno = u"DD/MM/YYYY";
 
 bool CaixaVazia(const Referencia<TextBox>& caixa) { return caixa->Text().empty(); }
 
-// The texts of two boxes with a separator between them, as they are.
-std::u16string Junta(const Referencia<TextBox>& a, std::u16string_view separador, std::u16string_view b) {
-  std::u16string texto(a->Text());
-  return texto.append(separador).append(b);
+// The texts of the boxes with a separator between them, as they are, read from the first to the last.
+std::u16string Junta(char16_t separador, std::initializer_list<Referencia<TextBox>> caixas) {
+  std::u16string texto;
+  for (const auto& caixa : caixas) texto.append(caixa->Text()) += separador;
+  texto.pop_back();
+  return texto;
 }
 
 }  // namespace
@@ -55,7 +58,7 @@ void SaiDaData(Campo& c) {
     return;
   }
   std::u16string s;
-  pula([&] { s = Junta(c.mEntrada1, u"/", Junta(c.mEntrada2, u"/", c.mEntrada3->Text())); });
+  pula([&] { s = Junta(u'/', {c.mEntrada1, c.mEntrada2, c.mEntrada3}); });
   if (pula.Se([&] { return c.EhData(s); })) {
     pula([&] { CompletaData(c, c.ComoData(s), false); });
     c.mValor = s;  // what stood in the boxes, not what has just been written into them
@@ -81,7 +84,7 @@ void SaiDoMesAno(Campo& c) {
   c.mValor.clear();
   if (pula.Se([&] { return CaixaVazia(c.mEntrada1) && CaixaVazia(c.mEntrada2); })) return;
   std::u16string s;
-  pula([&] { s = Junta(c.mEntrada1, u"/", c.mEntrada2->Text()); });
+  pula([&] { s = Junta(u'/', {c.mEntrada1, c.mEntrada2}); });
   std::u16string f;
   pula([&] { f = FormatDate(u"01/" + s, kDiaMesAno, *c.Regional, c.Agora()); });
   if (pula.Se([&] { return !c.EhData(f); })) {
@@ -99,7 +102,7 @@ void SaiDaHora(Campo& c) {
   c.mValor.clear();
   if (pula.Se([&] { return CaixaVazia(c.mEntrada1) && CaixaVazia(c.mEntrada2); })) return;
   std::u16string s;
-  pula([&] { s = Junta(c.mEntrada1, u":", c.mEntrada2->Text()); });
+  pula([&] { s = Junta(u':', {c.mEntrada1, c.mEntrada2}); });
   if (pula.Se([&] { return c.EhData(s); })) {
     pula([&] { CompletaHora(c, c.ComoData(s)); });
     pula([&] { c.mValor = FormatDate(s, u"hh:nn", *c.Regional, c.Agora()); });

@@ -25,7 +25,7 @@ FormaDeNumero FormaDe(std::int32_t mascara) {
 }  // namespace
 
 std::u16string FormataComoReal(Campo& c, std::u16string_view valor) {
-  return FormataComoReal(valor, FormaDe(c.mMask), *c.Kernel32, *c.Regional, c.arredonda);
+  return FormataComoReal(valor, FormaDe(c.mMask), *c.Kernel32, c.arredonda);
 }
 
 void CarregaInteiro(Campo& c, std::u16string_view dado) { c.mEntrada1->Text(SoDigitos(dado)); }

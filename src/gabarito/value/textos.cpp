@@ -106,11 +106,14 @@ void SaiDoCEP(Campo& c) {
     RecusaEVolta(c, pula, kInvalido, c.mEntrada2);
     return;
   }
-  pula([&] {
-    std::u16string cep(c.mEntrada1->Text());
-    if (!c.mEntrada2->Text().empty()) cep.append(u"-").append(c.mEntrada2->Text());
-    c.mValor = cep;
-  });
+  if (pula.Se([&] { return !c.mEntrada1->Text().empty() && !c.mEntrada2->Text().empty(); })) {
+    pula([&] {
+      std::u16string cep(c.mEntrada1->Text());
+      c.mValor = cep.append(u"-").append(c.mEntrada2->Text());
+    });
+  } else {
+    pula([&] { c.mValor = c.mEntrada1->Text(); });
+  }
 }
 
 void SaiDoTelefone(Campo& c) {

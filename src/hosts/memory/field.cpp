@@ -69,6 +69,7 @@ void Field::Load(const PropertyBag& bag) {
 void Field::End() {
   if (parts_ == nullptr) return;
   form_.Forget(*this);
+  form_.AllWindows().Close(parts_->Combo1.Window());
   parts_->gabarito.UserControl_Terminate();
   parts_.reset();
 }

@@ -7,6 +7,7 @@ namespace gabarito::memory {
 namespace {
 
 constexpr std::int32_t kWindowProcIndex = -4;
+constexpr std::int32_t kWindowGoes = 130;  // WM_NCDESTROY
 constexpr float kTwipsAPixel = 15;
 
 // The procedure of every window that nobody has hooked.
@@ -22,6 +23,7 @@ WindowHandle Windows::Open(ComboWidget* combo) {
 }
 
 void Windows::Close(WindowHandle window) {
+  Send(window, kWindowGoes, 0, 0);
   if (Window* found = Find(window)) *found = {.open = false, .properties = {}};
 }
 

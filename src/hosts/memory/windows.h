@@ -21,6 +21,7 @@ class Windows final : public User32 {
 
   // Gives a combo box its window; with null a window without content.
   WindowHandle Open(ComboWidget* combo);
+  // Sends WM_NCDESTROY first, so whoever has hooked the window is still there.
   void Close(WindowHandle window);
 
   // The system sends a message: the window's present procedure gets it.

@@ -45,26 +45,49 @@ std::u16string Typed(MaskedEdit box, std::u16string_view keys) {
 TEST(MaskedEdit, ShowsWhatIsEnteredAndWhereTheCaretGoes) {
   const std::u16string longest = u"~" + std::u16string(1'000'000, u'7');
   // clang-format off
-  const struct { std::u16string_view mask, text, keys, shown; } rows[] = {
-      {u"##/##", u"", u"12", u"12/|__"}, {u"##/##", u"", u"12/", u"12/|__"},
-      {u"##/##", u"", u"12345", u"12/34|!"}, {u"##/##", u"12/34", u"9", u"9|2/34"},
-      {u"##/##", u"12/34", u"x/9", u"12/9|4!"}, {u"##/##/##", u"", u"1/2/3", u"1_/2_/3|_"},
-      {u"##/##", u"", u"12\b", u"1|_/__"}, {u"##/##", u"12/34", u"\b", u"|12/34"},
-      {u"##/##", u"12/34", u"\x7F", u"|_2/34"}, {u"##/##", u"12/34", u"^\x7F", u"|__/__"},
-      {u"##/##", u"12/34", u"^\b", u"|__/__"}, {u"##/##", u"12/34", u"^5", u"5|_/__"},
-      {u"##/##", u"12/34", u"^x", u"|12/34!"}, {u"##-##", u"12-34", u" _", u"__-|34"},
-      {u"(11) ##", u"", u"12", u"(11) 12|"}, {u"(11) ##", u"", u"(11) 12", u"(11) 12|"},
-      {u"\\##1#", u"", u"#213", u"#211|!"}, {u"9Aa?&C", u"", u"x1!", u"_x1_!|_"},
-      {u">?\?<?\?&\\?", u"", u"éaÉAŸ", u"ÉAéaÿ?|"}, {u"&&", u"", u"\x1F\x01\xD800\xFFFF", u"\xD800\xFFFF|!!"},
-      {u">", u"", u"a\b\x7F", u"|!"}, {u"", u"", u"ab\x0D\bc", u"ac|!"}, {u"", u"abc", u"^x\x7F\bY", u"Y|"},
-      {u"##/##", u"12/34", u"^~5-6", u"56|/__"}, {u"##/##/##", u"", u"~1/2/34", u"1_/2_/34|"},
-      {u"##1##", u"", u"~12134", u"12134|"}, {u"##/##", u"12/34", u"^~", u"|__/__"},
-      {u"##/##", u"12/34", u"56~x\n/", u"56/|34"}, {u"##/##", u"", longest, u"77/77|"},
-      {u"", u"abc", u"^~xyz\n", u"xyz\n|"}};
+  const struct { const char* name; std::u16string_view mask, text, keys, shown; } rows[] = {
+      {"the caret runs over a literal", u"##/##", u"", u"12", u"12/|__"},
+      {"a separator typed once more", u"##/##", u"", u"12/", u"12/|__"},
+      {"a separator over an empty place", u"##/##", u"", u"1/2", u"1_/2|_"},
+      {"over each of two", u"##/##/##", u"", u"1/2/3", u"1_/2_/3|_"},
+      {"a separator over a filled place", u"##/##", u"12/34", u"/9", u"9|2/34!"},
+      {"over filled places that are selected", u"##/##", u"12/34", u"^/", u"__/|__"},
+      {"a separator that the place takes", u"#/&#", u"", u"1/", u"1//|_"},
+      {"no running ahead to a place that fits", u"A?&", u"", u"-12b-", u"1b-|!!"},
+      {"nor over a literal", u"?/#", u"", u"1", u"|_/_!"},
+      {"over optional places", u"9aC?", u"", u"é", u"_é|__"},
+      {"up to the first required one", u"99A?", u"", u"xy", u"__xy|"},
+      {"not behind it", u"99#?", u"", u"xy", u"|____!!"},
+      {"over an optional place and a literal", u"9-?", u"", u"x", u"_-x|"},
+      {"no place left", u"##/##", u"", u"12345", u"12/34|!"},
+      {"a place replaced", u"##/##", u"12/34", u"9", u"9|2/34"},
+      {"Backspace over a literal", u"##/##", u"", u"12\b", u"1|_/__"},
+      {"Backspace at the start", u"##/##", u"12/34", u"\b", u"|12/34"},
+      {"Delete", u"##/##", u"12/34", u"\x7F", u"|_2/34"},
+      {"Delete of a selection", u"##/##", u"12/34", u"^\x7F", u"|__/__"},
+      {"Backspace of a selection", u"##/##", u"12/34", u"^\b", u"|__/__"},
+      {"a selection replaced", u"##/##", u"12/34", u"^5", u"5|_/__"},
+      {"a selection kept from a refused key", u"##/##", u"12/34", u"^x", u"|12/34!"},
+      {"blank and prompt empty a place", u"##-##", u"12-34", u" _", u"__-|34"},
+      {"digits of the frame", u"(11) ##", u"", u"12", u"(11) 12|"},
+      {"the frame typed too", u"(11) ##", u"", u"(11) 12", u"(11) 12|"},
+      {"a literal digit ahead", u"\\##1#", u"", u"#213", u"#211|!"},
+      {"capital, small, accented", u">?\?<?\?&\\?", u"", u"éaÉAŸ", u"ÉAéaÿ?|"},
+      {"control characters", u"&&", u"", u"\x1F\x01\xD800\xFFFF", u"\xD800\xFFFF|!!"},
+      {"a pattern without a place", u">", u"", u"a\b\x7F", u"|!"},
+      {"no pattern", u"", u"", u"ab\x0D\bc", u"ac|!"},
+      {"no pattern, all selected", u"", u"abc", u"^x\x7F\bY", u"Y|"},
+      {"pasted over a selection", u"##/##", u"12/34", u"^~5-6", u"56|/__"},
+      {"pasted separators", u"##/##/##", u"", u"~1/2/34", u"1_/2_/34|"},
+      {"pasted: what is refused is dropped", u"A?&", u"", u"~-12b-", u"1b-|"},
+      {"the box's own text pasted", u"##1##", u"", u"~12134", u"12134|"},
+      {"nothing pasted", u"##/##", u"12/34", u"^~", u"|__/__"},
+      {"pasted behind a literal", u"##/##", u"12/34", u"56~x\n/", u"56/|34"},
+      {"a very long paste", u"##/##", u"", longest, u"77/77|"},
+      {"pasted without a pattern", u"", u"abc", u"^~xyz\n", u"xyz\n|"}};
   // clang-format on
   for (const auto& row : rows) {
-    EXPECT_EQ(Typed(BoxOf(row.mask, row.text), row.keys), row.shown)
-        << PrintToString(row.mask) << PrintToString(row.keys.substr(0, 40));
+    EXPECT_EQ(Typed(BoxOf(row.mask, row.text), row.keys), row.shown) << row.name;
   }
 }
 

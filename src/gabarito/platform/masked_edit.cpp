@@ -10,6 +10,7 @@ namespace gabarito {
 namespace {
 
 constexpr std::u16string_view kPlaces = u"#9Aa?&C";
+constexpr std::u16string_view kOptional = u"9aC";
 constexpr char16_t kDelete = 127;
 
 bool IsControl(char16_t c) { return c < u' ' || c == kDelete; }
@@ -90,19 +91,36 @@ std::u16string MaskedEdit::Template() const {
   return text;
 }
 
-// The first position from `from` on that takes `character`; the size of the text when none does.
-std::size_t MaskedEdit::Find(std::size_t from, char16_t character) const {
-  const bool isSeparator = !IsDigit(character) && !IsLetter(character);
-  std::size_t at = from;
-  // A separator ahead is an order to go there (1/2 in ##/##); a letter or digit ahead is only part of the
-  // frame, or the 1 of 1234 would be lost to the frame of (11) ####.
-  for (; at < positions_.size(); ++at) {
-    if (IsPlace(at) ? Fits(positions_[at], character)
-                    : (isSeparator || at == from) && IsLiteral(at, character)) {
-      break;
-    }
+// The place that takes `character`: the first from `from` on, or one that only optional places stand before.
+// Those do not have to be filled, so a character that they refuse passes over them; a required place ends it.
+std::size_t MaskedEdit::FindPlace(std::size_t from, char16_t character) const {
+  for (std::size_t at = from; at < positions_.size(); ++at) {
+    if (!IsPlace(at)) continue;
+    if (Fits(positions_[at], character)) return at;
+    if (kOptional.find(positions_[at].place) == std::u16string_view::npos) break;
   }
-  return at;
+  return positions_.size();
+}
+
+// The literal ahead that equals `separator`, over empty places alone: what is filled is not left behind.
+std::size_t MaskedEdit::FindSeparator(std::u16string_view text, std::size_t from, char16_t separator) const {
+  for (std::size_t at = from; at < positions_.size(); ++at) {
+    if (IsLiteral(at, separator)) return at;
+    if (IsPlace(at) && text[at] != kPrompt) break;
+  }
+  return positions_.size();
+}
+
+// The position that takes `character` with the caret at `caret` in `text`, which has the form of this
+// pattern; the size of the text when none does. Entering goes on behind that position.
+std::size_t MaskedEdit::Find(std::u16string_view text, std::size_t caret, char16_t character) const {
+  if (IsLiteral(caret, character)) return caret;
+  const std::size_t place = FindPlace(caret, character);
+  if (place < positions_.size() || IsDigit(character) || IsLetter(character)) return place;
+  // The caret has run over the "/" of ##/## by itself when the person types it. Asked before the next "/" of
+  // ##/##/## is looked for.
+  if (caret > 0 && IsLiteral(caret - 1, character)) return caret - 1;
+  return FindSeparator(text, caret, character);
 }
 
 void MaskedEdit::Select(std::size_t start, std::size_t length) {
@@ -160,7 +178,7 @@ void MaskedEdit::SelText(std::u16string_view text) {
   Empty(entered, start_, length_);
   std::size_t caret = start_;
   for (const char16_t c : text) {
-    const std::size_t at = Find(caret, c);
+    const std::size_t at = Find(entered, caret, c);
     if (at == positions_.size()) continue;
     if (IsPlace(at)) entered[at] = Entered(positions_[at], c);
     caret = at + 1;
@@ -181,12 +199,10 @@ bool MaskedEdit::TypePlain(char16_t character) {
 bool MaskedEdit::Type(char16_t character) {
   if (IsControl(character)) return false;
   if (IsPlain()) return TypePlain(character);
-  // The caret has run over the "/" of ##/## by itself when the person types it. Asked before Find, which
-  // would go on to the next "/" of ##/##/##.
-  const bool isTypedOnceMore = length_ == 0 && start_ > 0 && IsLiteral(start_ - 1, character) &&
-                               !IsLiteral(start_, character) && !IsDigit(character) && !IsLetter(character);
-  if (isTypedOnceMore) return true;
-  const std::size_t at = Find(start_, character);
+  // A key that is refused leaves the selection as it is, so it is emptied in a copy.
+  std::u16string without;
+  if (length_ > 0) Empty(without = text_, start_, length_);
+  const std::size_t at = Find(length_ > 0 ? without : text_, start_, character);
   if (at == positions_.size()) return false;
   Empty(text_, start_, length_);
   std::size_t caret = at + 1;

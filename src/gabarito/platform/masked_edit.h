@@ -14,10 +14,12 @@
 // any but the control characters (below 32, and 127). > and < change what is entered, never a literal. A
 // prompt character that is typed, pasted or set fits every place and leaves it empty.
 //
-// A character that is entered goes to the first position from the caret on that takes it: a place that it
-// fits, or a literal that equals it, which is stepped over. A literal letter or digit counts only right at
-// the caret. So 1/2 entered in ##/## gives "1_/2_", while the digits of (11) #### do not swallow those of
-// the number. Places are fixed: entering replaces what a place holds and shifts nothing.
+// A character that is entered goes to the first place from the caret on if it fits there, else it is refused,
+// with two exceptions. Optional places that it does not fit are passed over, up to and including the first
+// required one. And a separator (neither letter nor digit) that equals a literal ahead goes behind that
+// literal, over places that are still empty: 1/2 entered in ##/## gives "1_/2_". A literal right at the caret
+// is stepped over by its own character, also a letter or digit. Places are fixed: entering replaces what a
+// place holds and shifts nothing.
 //
 // An empty pattern makes it a plain box, which inserts.
 //
@@ -66,15 +68,14 @@ class MaskedEdit {
   // The selected part of the text.
   std::u16string_view SelText() const { return Text().substr(start_, length_); }
   // Replaces the selection, keeping the pattern: the places of the selection are emptied, then the
-  // characters are entered one by one from its start, and what no position takes is dropped. The caret ends
+  // characters are entered one by one from its start, and what is refused is dropped. The caret ends
   // behind the last character entered, in front of a literal that follows; no selection stays.
   void SelText(std::u16string_view text);
 
-  // One typed character: replaces the selection. True when it was taken; false when no position from the
-  // caret on takes it, when it is a control character, or when MaxLength is reached: nothing changes, and
-  // the host beeps. The caret goes on to the next place, over the literals that follow. So 12 in ##/##
-  // leaves it behind the slash, and a "/" typed there is taken and changes nothing: such a literal, other
-  // than a letter or a digit, may be typed once more right behind itself.
+  // One typed character: replaces the selection. True when it was taken; false when it is refused, when it is
+  // a control character, or when MaxLength is reached: nothing changes, and the host beeps. The caret goes on
+  // to the next place, over the literals that follow. So 12 in ##/## leaves it behind the slash, and a "/"
+  // typed there, where no place takes it, is taken and changes nothing.
   bool Type(char16_t character);
   // Backspace: empties the selection, or the nearest place before the caret and moves there.
   void Backspace();
@@ -98,7 +99,9 @@ class MaskedEdit {
   bool IsPlace(std::size_t at) const { return positions_[at].place != kLiteral; }
   bool IsLiteral(std::size_t at, char16_t character) const;
   std::u16string Template() const;
-  std::size_t Find(std::size_t from, char16_t character) const;
+  std::size_t FindPlace(std::size_t from, char16_t character) const;
+  std::size_t FindSeparator(std::u16string_view text, std::size_t from, char16_t separator) const;
+  std::size_t Find(std::u16string_view text, std::size_t caret, char16_t character) const;
   void Select(std::size_t start, std::size_t length);
   void Empty(std::u16string& text, std::size_t start, std::size_t length) const;
   bool TypePlain(char16_t character);

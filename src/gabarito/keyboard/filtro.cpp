@@ -97,7 +97,7 @@ void EntradaKeyPress(Campo& c, const RegraDeTecla& regra, TextBox& txt, std::int
 void KeyPressDaCaixa(Campo& c, const RegraDeTecla& regra, TextBox& txt, TextBox& gemea, std::int16_t Index,
                      std::int16_t& KeyAscii) {
   EntradaKeyPress(c, regra, txt, Index, KeyAscii);
-  gemea.Text(txt.Text());
+  gemea.TextOf(txt);
 }
 
 }  // namespace gabarito

@@ -1,4 +1,6 @@
+#include <algorithm>
 #include <cstddef>
+#include <iterator>
 
 #include "gabarito/platform/erro.h"
 #include "gabarito/platform/text.h"
@@ -6,9 +8,7 @@
 namespace gabarito {
 namespace {
 
-struct Range {
-  char16_t low, high;
-};
+using Range = LikePattern::Range;
 
 // Takes the next piece of a set off the pattern at `position`: one character, or two with a "-" between
 // them. "[a-]" ends with a "-" that is no range. Raises 93 where the pattern ends inside the set.
@@ -32,45 +32,19 @@ bool IsSetOpen(std::u16string_view pattern, std::size_t position) {
   return position >= pattern.size() || pattern[position] != u']';
 }
 
-void CheckPattern(std::u16string_view pattern) {
-  std::size_t position = pattern.find(u'[');
-  while (position != std::u16string_view::npos) {
-    ++position;
-    if (IsExcluding(pattern, position)) ++position;
-    while (IsSetOpen(pattern, position)) {
-      const Range range = NextRange(pattern, position);
-      if (range.low > range.high) throw Erro(kInvalidPatternString);
+// Puts the ranges in order and makes one of those that overlap or touch, for a search by halves.
+void Merge(std::vector<Range>& ranges) {
+  if (ranges.empty()) return;
+  std::sort(ranges.begin(), ranges.end(), [](const Range& a, const Range& b) { return a.low < b.low; });
+  auto last = ranges.begin();
+  for (const Range& range : ranges) {
+    if (range.low > last->high + 1) {
+      *++last = range;
+    } else {
+      last->high = std::max(last->high, range.high);
     }
-    position = pattern.find(u'[', position);
   }
-}
-
-// Whether `character` is in the set whose "[" stands just before `position`, which moves behind its "]".
-bool MatchesSet(char16_t character, std::u16string_view pattern, std::size_t& position) {
-  const bool excluding = IsExcluding(pattern, position);
-  if (excluding) ++position;
-  bool found = false;
-  while (pattern[position] != u']') {
-    const Range range = NextRange(pattern, position);
-    found = found || (character >= range.low && character <= range.high);
-  }
-  ++position;
-  return found != excluding;
-}
-
-// Matches one character against the element at `position`, which moves behind the element.
-bool MatchesElement(char16_t character, std::u16string_view pattern, std::size_t& position) {
-  const char16_t element = pattern[position++];
-  switch (element) {
-    case u'?':
-      return true;
-    case u'#':
-      return character >= u'0' && character <= u'9';
-    case u'[':
-      return MatchesSet(character, pattern, position);
-    default:
-      return character == element;
-  }
+  ranges.erase(last + 1, ranges.end());
 }
 
 }  // namespace
@@ -79,35 +53,76 @@ bool Like(std::u16string_view text, std::u16string_view pattern) {
   return LikePattern(pattern).Matches(text);
 }
 
-LikePattern::LikePattern(std::u16string_view pattern) : pattern_(pattern) { CheckPattern(pattern); }
+LikePattern::LikePattern(std::u16string_view pattern) : pattern_(pattern) {
+  std::size_t position = pattern.find(u'[');
+  while (position != std::u16string_view::npos) {
+    Set& set = sets_.emplace_back();
+    ++position;
+    set.excluding = IsExcluding(pattern, position);
+    if (set.excluding) ++position;
+    while (IsSetOpen(pattern, position)) {
+      const Range range = NextRange(pattern, position);
+      if (range.low > range.high) throw Erro(kInvalidPatternString);
+      set.ranges.push_back(range);
+    }
+    set.end = position + 1;
+    Merge(set.ranges);
+    position = pattern.find(u'[', position);
+  }
+}
+
+bool LikePattern::Set::Has(char16_t character) const {
+  const auto behind = std::upper_bound(ranges.begin(), ranges.end(), character,
+                                       [](char16_t c, const Range& range) { return c < range.low; });
+  const bool found = behind != ranges.begin() && character <= std::prev(behind)->high;
+  return found != excluding;
+}
+
+bool LikePattern::MatchesElement(char16_t character, Place& place) const {
+  const char16_t element = pattern_[place.position++];
+  switch (element) {
+    case u'?':
+      return true;
+    case u'#':
+      return character >= u'0' && character <= u'9';
+    case u'[': {
+      const Set& set = sets_[place.set++];
+      place.position = set.end;
+      return set.Has(character);
+    }
+    default:
+      return character == element;
+  }
+}
 
 bool LikePattern::Matches(std::u16string_view text) const {
-  const std::u16string_view pattern = pattern_;
-  constexpr std::size_t kNone = std::u16string_view::npos;
-  std::size_t at = 0;             // in the text
-  std::size_t element = 0;        // in the pattern
-  std::size_t afterStar = kNone;  // behind the last "*" passed
-  std::size_t runEnd = 0;         // where the run of that "*" ends in the text
+  std::size_t at = 0;  // in the text
+  Place place;         // in the pattern
+  Place afterStar;     // behind the last "*" passed
+  bool hasStar = false;
+  std::size_t runEnd = 0;  // where the run of that "*" ends in the text
   for (;;) {
-    if (element == pattern.size()) {
+    if (place.position == pattern_.size()) {
       if (at == text.size()) return true;
-    } else if (pattern[element] == u'*') {
-      afterStar = ++element;
+    } else if (pattern_[place.position] == u'*') {
+      ++place.position;
+      afterStar = place;
+      hasStar = true;
       runEnd = at;
       continue;
-    } else if (pattern.substr(element, 2) == u"[]") {
-      element += 2;
+    } else if (pattern_.substr(place.position, 2) == u"[]") {
+      place = {place.position + 2, place.set + 1};
       continue;
     } else if (at == text.size()) {
       return false;  // a longer run would leave even less text for the rest of the pattern
-    } else if (MatchesElement(text[at], pattern, element)) {
+    } else if (MatchesElement(text[at], place)) {
       ++at;
       continue;
     }
     // Only the last "*" has to give way: a shorter run of an earlier one leaves the rest the same choice.
-    if (afterStar == kNone) return false;
+    if (!hasStar) return false;
     at = ++runEnd;
-    element = afterStar;
+    place = afterStar;
   }
 }
 

@@ -5,9 +5,11 @@
 #ifndef GABARITO_PLATFORM_TEXT_H
 #define GABARITO_PLATFORM_TEXT_H
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace gabarito {
 
@@ -61,16 +63,36 @@ std::u16string String(std::int32_t count, char16_t character);
 // proportional to the product of both lengths.
 bool Like(std::u16string_view text, std::u16string_view pattern);
 
-// The pattern of Like, checked once for many texts: a long one costs a short text little. Keep the text of
-// the pattern alive as long as the object.
+// The pattern of Like, checked and its sets read once for many texts: a long set costs a character no more
+// than a search by halves. Keep the text of the pattern alive as long as the object.
 class LikePattern {
  public:
-  // Raises 93 as Like does.
+  // Raises 93 as Like does. Allocates for sets alone.
   explicit LikePattern(std::u16string_view pattern);
   bool Matches(std::u16string_view text) const;
 
+  // The characters from `low` to `high`, both included.
+  struct Range {
+    char16_t low, high;
+  };
+
  private:
+  struct Set {
+    std::size_t end = 0;        // behind its "]" in the pattern
+    bool excluding = false;     // matches what is in none of the ranges
+    std::vector<Range> ranges;  // in order, apart from each other
+    bool Has(char16_t character) const;
+  };
+  struct Place {
+    std::size_t position = 0;
+    std::size_t set = 0;  // of the sets, the first that stands at or behind the position
+  };
+
+  // Moves `place` behind the element that stands there.
+  bool MatchesElement(char16_t character, Place& place) const;
+
   std::u16string_view pattern_;
+  std::vector<Set> sets_;  // in the order of the pattern
 };
 
 }  // namespace gabarito

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <utility>
 
 #include "gabarito/platform/text.h"
 
@@ -36,22 +37,37 @@ constexpr auto kKeyNames = [] {
       {u"F15", 126, false},        {u"F16", 127, false},       {u"NUMLOCK", 144, true},
       {u"SCROLLLOCK", 145, false},
   }};
-  std::ranges::sort(names, {}, &KeyName::name);
+  // By insertion: not every standard library can sort while compiling.
+  for (std::size_t i = 1; i < names.size(); ++i) {
+    for (std::size_t k = i; k > 0 && names[k].name < names[k - 1].name; --k)
+      std::swap(names[k], names[k - 1]);
+  }
   return names;
 }();
 
-static_assert(std::ranges::adjacent_find(kKeyNames, {}, &KeyName::name) == kKeyNames.end(), "a name twice");
+constexpr bool HasNameTwice() {
+  for (std::size_t i = 1; i < kKeyNames.size(); ++i) {
+    if (kKeyNames[i].name == kKeyNames[i - 1].name) return true;
+  }
+  return false;
+}
+static_assert(!HasNameTwice());
 
-constexpr std::size_t kLongestName =
-    std::ranges::max(kKeyNames, {}, [](const KeyName& key) { return key.name.size(); }).name.size();
+constexpr std::size_t kLongestName = [] {
+  std::size_t longest = 0;
+  for (const KeyName& key : kKeyNames) longest = std::max(longest, key.name.size());
+  return longest;
+}();
 
 const KeyName* Find(std::u16string_view name) {
   if (name.size() > kLongestName) return nullptr;
   std::array<char16_t, kLongestName> buffer;
-  std::ranges::transform(name, buffer.begin(), [](char16_t character) { return UCase(character); });
+  for (std::size_t i = 0; i < name.size(); ++i) buffer[i] = UCase(name[i]);
   const std::u16string_view capitals(buffer.data(), name.size());
-  const auto found = std::ranges::lower_bound(kKeyNames, capitals, {}, &KeyName::name);
-  return found != kKeyNames.end() && found->name == capitals ? &*found : nullptr;
+  const auto* const found =
+      std::lower_bound(kKeyNames.begin(), kKeyNames.end(), capitals,
+                       [](const KeyName& key, std::u16string_view sought) { return key.name < sought; });
+  return found != kKeyNames.end() && found->name == capitals ? found : nullptr;
 }
 
 }  // namespace

@@ -1,11 +1,13 @@
 #include "gabarito/platform/decimal_digits.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
+#include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <iterator>
 #include <limits>
+#include <string>
 
 #include "gabarito/platform/erro.h"
 
@@ -13,7 +15,7 @@ namespace gabarito {
 namespace {
 
 constexpr std::size_t kHeadDigits = 19;  // the most that 64 bits hold
-constexpr int kSafeDigits = 15;          // the most that every double tells apart
+constexpr int kSafeDigits = 15;          // the most that every normal double tells apart
 constexpr std::uint64_t kSafeLimit = 1'000'000'000'000'000;
 
 // The powers of ten that are exact as doubles. One operation with an exact integer and one of these is
@@ -30,21 +32,35 @@ Significant WithoutTrailingZeros(Significant number) {
   return number;
 }
 
-// Reads "1.2345e-05", as std::to_chars writes it, up to `end`; tells the number of its digits.
-Significant FromScientific(const char* begin, const char* end, bool negative, int& digits) {
-  Significant number{0, 0, negative};
-  digits = 0;
-  const char* at = begin;
+// `magnitude` rounded to so many digits. The standard library does the rounding, exactly; whatever mark the
+// locale of the process puts behind the first digit is passed over.
+Significant Rounded(double magnitude, int digits) {
+  std::array<char, 40> text;
+  std::snprintf(text.data(), text.size(), "%.*e", digits - 1, magnitude);
+  Significant number{0, 0, false};
+  const char* at = text.data();
   for (; *at != 'e'; ++at) {
-    if (*at == '.') continue;
+    if (*at < '0' || *at > '9') continue;
     number.coefficient = number.coefficient * 10 + static_cast<std::uint64_t>(*at - '0');
+  }
+  number.exponent = static_cast<std::int32_t>(std::strtol(at + 1, nullptr, 10)) - (digits - 1);
+  return number;
+}
+
+// The fewest digits that tell `magnitude` from its neighbours. Asked for below the normal doubles alone,
+// which hold less than 15: 4.94E-324 would show digits that nobody has written.
+Significant Shortest(double magnitude) {
+  int digits = 1;
+  while (digits < kSafeDigits) {
+    const Significant number = Rounded(magnitude, digits);
+    DecimalReader reader;
+    for (const char digit : std::to_string(number.coefficient)) {
+      reader.AddInteger(static_cast<std::uint32_t>(digit - '0'));
+    }
+    if (reader.Value(number.exponent) == magnitude) break;
     ++digits;
   }
-  ++at;
-  if (*at == '+') ++at;  // std::from_chars takes no plus sign
-  std::from_chars(at, end, number.exponent);
-  number.exponent -= digits - 1;
-  return number;
+  return Rounded(magnitude, digits);
 }
 
 }  // namespace
@@ -102,6 +118,7 @@ double DecimalReader::Parse(std::int64_t power) const {
   if (magnitude > kFarBeyond) return std::numeric_limits<double>::infinity();
   if (magnitude < -kFarBeyond) return 0;
 
+  // Digits and an exponent, without a decimal mark: no locale reads that otherwise.
   std::array<char, kCapacity + 1 + kExponentRoom> text;
   std::memcpy(text.data(), digits_.data(), count_);
   char* end = text.data() + count_;
@@ -110,34 +127,23 @@ double DecimalReader::Parse(std::int64_t power) const {
     *end++ = '1';
     --exponent;
   }
-  *end++ = 'e';
-  end = std::to_chars(end, text.data() + text.size(), exponent).ptr;
-  double value = 0;
-  const auto result = std::from_chars(text.data(), end, value);
-  if (result.ec == std::errc{}) return value;
-  return magnitude > 0 ? std::numeric_limits<double>::infinity() : 0;
+  std::snprintf(end, kExponentRoom, "e%lld", static_cast<long long>(exponent));
+  return std::strtod(text.data(), nullptr);
 }
 
 Significant ToSignificant(double value) {
   if (!std::isfinite(value)) throw Erro(kOverflow);
   if (value == 0) return {0, 0, false};
-  const bool negative = value < 0;
   const double magnitude = std::fabs(value);
-  if (magnitude < static_cast<double>(kSafeLimit)) {
-    const auto whole = static_cast<std::uint64_t>(magnitude);
-    if (static_cast<double>(whole) == magnitude) return WithoutTrailingZeros({whole, 0, negative});
+  const auto whole = static_cast<std::uint64_t>(std::min(magnitude, static_cast<double>(kSafeLimit)));
+  Significant number{whole, 0, false};
+  if (static_cast<double>(whole) != magnitude) {
+    const bool isNormal = magnitude >= std::numeric_limits<double>::min();
+    number = isNormal ? Rounded(magnitude, kSafeDigits) : Shortest(magnitude);
   }
-  std::array<char, 32> text;
-  char* const limit = text.data() + text.size();
-  int digits = 0;
-  char* end = std::to_chars(text.data(), limit, magnitude, std::chars_format::scientific).ptr;
-  Significant number = FromScientific(text.data(), end, negative, digits);
-  if (digits > kSafeDigits) {
-    // Rounded anew from the value itself: rounding the 17 digits once more could round twice.
-    end = std::to_chars(text.data(), limit, magnitude, std::chars_format::scientific, kSafeDigits - 1).ptr;
-    number = FromScientific(text.data(), end, negative, digits);
-  }
-  return WithoutTrailingZeros(number);
+  number = WithoutTrailingZeros(number);
+  number.negative = value < 0;
+  return number;
 }
 
 }  // namespace gabarito

@@ -21,9 +21,9 @@ class TextBox : public InputChild {
 
   virtual bool Enabled() const = 0;
 
-  // Takes the content of another box, as Text(other.Text()) does. The box of the other look does so at each key
-  // typed: a host that notes what has changed in `other` since the last time can take that alone, so that a
-  // key in a long text costs no more than one in a short text.
+  // Takes the content of another box, as Text(other.Text()) does. The box of the other look does so at each
+  // key typed: a host that notes what has changed in `other` since the last time can take that alone, so that
+  // a key in a long text costs no more than one in a short text.
   virtual void TextOf(const TextBox& other) { Text(other.Text()); }
 
   // Longest text that the user can type or paste; 0 is no limit. A negative value raises 380. A longer

@@ -139,7 +139,7 @@ DoisDigitos CentavosPeloNumero(std::u16string_view fracao, const Separadores& se
   const std::u16string resultado = NumberToText(arredondado, sep.decimal);
   const std::int32_t marca = InStr(resultado, sep.decimal);
   DoisDigitos centavos = {u'0', u'0'};
-  if (marca > 0) std::ranges::copy(Mid(resultado, marca + 1, kCasasDeMoeda), centavos.begin());
+  if (marca > 0) Mid(resultado, marca + 1, kCasasDeMoeda).copy(centavos.data(), centavos.size());
   return centavos;
 }
 

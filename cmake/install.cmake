@@ -19,6 +19,7 @@ function(install_component name folder)
 endfunction()
 
 install_component(gabarito gabarito gabarito)
+install_component(kit hosts/kit kit)
 install_component(memory hosts/memory memory)
 if(TARGET gabarito_shell)
   install_component(shell shell shell runtime)

@@ -7,7 +7,7 @@
 #include <string>
 
 #include "gabarito/control/especie.h"
-#include "hosts/memory/field.h"
+#include "hosts/kit/field_model.h"
 #include "hosts/memory/form.h"
 
 namespace gabarito {
@@ -56,7 +56,7 @@ struct Bench {
 
   // Back to an empty field by ways that no handler sees, so that they cost next to nothing.
   void Empty() {
-    for (memory::TextBoxWidget& box : field.Parts().txt_entrada3D) box.Entry().Text({});
+    for (kit::TextBoxModel& box : field.Parts().txt_entrada3D) box.Entry().Text({});
     field.Parts().Combo1.Entry().Text({});
     field.Parts().MaskEdBox1.Entry().Text({});
   }
@@ -90,7 +90,7 @@ void Key(benchmark::State& state, std::int32_t mask, char key) {
 
 void Type(benchmark::State& state, std::int32_t mask, std::u16string_view digits) {
   Bench bench(mask);
-  memory::TextBoxWidget& first = bench.field.Parts().txt_entrada3D[0];
+  kit::TextBoxModel& first = bench.field.Parts().txt_entrada3D[0];
   for (auto _ : state) {
     bench.Empty();
     bench.form.SetFocus(first);

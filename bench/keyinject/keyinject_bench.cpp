@@ -6,14 +6,14 @@
 #include <string>
 
 #include "gabarito/keyinject/send_input.h"
-#include "hosts/memory/environment.h"
+#include "hosts/kit/scripted.h"
 
 namespace gabarito {
 namespace {
 
 // The keyboard calls over the Brazilian layout; events are counted and not kept, so that what is measured is
-// the making of them. No window is ever asked for.
-class CountingUser32 final : public User32 {
+// the making of them.
+class CountingQueue final : public InputQueue {
  public:
   std::int32_t SendInput(std::span<const INPUT> events, std::int32_t) override {
     benchmark::DoNotOptimize(events.data());
@@ -26,54 +26,37 @@ class CountingUser32 final : public User32 {
   }
   std::int16_t GetKeyState(std::int32_t) const override { return 0; }
 
-  std::int32_t SendMessageA(WindowHandle, std::int32_t, std::int32_t, std::u16string_view) override {
-    return 0;
-  }
-  void LockWindowUpdate(WindowHandle) override {}
-  std::intptr_t GetPropA(WindowHandle, std::string_view) const override { return 0; }
-  void SetPropA(WindowHandle, std::string_view, std::intptr_t) override {}
-  std::intptr_t GetWindowLongA(WindowHandle, std::int32_t) const override { return 0; }
-  std::intptr_t SetWindowLongA(WindowHandle, std::int32_t, std::intptr_t) override { return 0; }
-  std::int32_t CallWindowProcA(WindowProc, WindowHandle, std::int32_t, std::int32_t, std::int32_t) override {
-    return 0;
-  }
-  DeviceContext GetWindowDC(WindowHandle) override { return 0; }
-  void ReleaseDC(WindowHandle, DeviceContext) override {}
-  void GetClientRect(WindowHandle, RECT&) const override {}
-  void DrawEdge(DeviceContext, const RECT&, std::int32_t, std::int32_t) override {}
-  void InflateRect(RECT&, std::int32_t, std::int32_t) const override {}
-
  private:
-  const memory::KeyboardLayout& layout_ = memory::Abnt2();
+  const kit::KeyboardLayout& layout_ = kit::Abnt2();
 };
 
-void AddByHand(User32& user32, std::int16_t key, INPUT*& next) {
+void AddByHand(InputQueue& queue, std::int16_t key, INPUT*& next) {
   const auto vk = static_cast<std::uint16_t>(key & 255);
-  const auto scan = static_cast<std::uint16_t>(user32.MapVirtualKeyExA(vk, 0, user32.GetKeyboardLayout(0)));
+  const auto scan = static_cast<std::uint16_t>(queue.MapVirtualKeyExA(vk, 0, queue.GetKeyboardLayout(0)));
   *next++ = {.type = kInputKeyboard, .wVk = vk};
   *next++ = {.type = kInputKeyboard, .wVk = vk, .wScan = scan, .dwFlags = kKeyUp};
 }
 
 void Floor(benchmark::State& state, std::u16string_view letters) {
-  CountingUser32 counting;
-  User32& user32 = counting;
+  CountingQueue counting;
+  InputQueue& queue = counting;
   std::array<INPUT, 1024> records;
   for (auto _ : state) {
     benchmark::DoNotOptimize(letters);
     INPUT* next = records.data();
     for (const char16_t c : letters) {
-      AddByHand(user32, user32.VkKeyScanA(static_cast<std::uint8_t>(c)), next);
+      AddByHand(queue, queue.VkKeyScanA(static_cast<std::uint8_t>(c)), next);
     }
-    user32.SendInput(std::span(records.data(), next), sizeof(INPUT));
+    queue.SendInput(std::span(records.data(), next), sizeof(INPUT));
   }
 }
 
 void Send(benchmark::State& state, std::u16string_view text) {
-  CountingUser32 user32;
-  memory::Environment environment;
+  CountingQueue queue;
+  kit::ScriptedServices environment;
   for (auto _ : state) {
     benchmark::DoNotOptimize(text);
-    SendKeyString(user32, environment.kernel, environment.dialogs, text, true);
+    SendKeyString(queue, environment.kernel, environment.dialogs, text, true);
   }
 }
 

@@ -9,8 +9,8 @@
 
 #include "gabarito/combo/municipios.h"
 #include "gabarito/combo/procura.h"
-#include "hosts/memory/combo_list.h"
-#include "hosts/memory/field.h"
+#include "hosts/kit/combo_list.h"
+#include "hosts/kit/field_model.h"
 #include "hosts/memory/form.h"
 
 namespace gabarito {
@@ -32,7 +32,7 @@ struct Cities {
   }
   memory::Form form;
   memory::Field& field;
-  memory::ComboWidget& combo;
+  kit::ComboModel& combo;
 };
 
 void Fill(benchmark::State& state) {
@@ -62,7 +62,7 @@ BENCHMARK(FillFloor)->Name("Fill_floor");
 void TypeAhead(benchmark::State& state, std::u16string typed) {
   Cities cities;
   const std::u16string before = typed.substr(0, typed.size() - 1);
-  const auto stroke = memory::Abnt2().StrokeFor(typed.back());
+  const auto stroke = kit::Abnt2().StrokeFor(typed.back());
   for (auto _ : state) {
     cities.combo.Entry().Text(before);
     cities.combo.Entry().SelStart(static_cast<std::int32_t>(before.size()));
@@ -82,7 +82,7 @@ void TypeAheadFloor(benchmark::State& state, std::u16string typed) {
 }
 
 void BuildIndex(benchmark::State& state) {
-  memory::ComboList list;
+  kit::ComboList list;
   const std::vector<std::u16string_view> table = Table();
   for (auto _ : state) {
     state.PauseTiming();
@@ -116,7 +116,7 @@ void ExistsLastLine(benchmark::State& state) {
   std::u16string_view last = LoadResString(kMunicipios);
   for (auto _ : state) {
     benchmark::DoNotOptimize(last);
-    benchmark::DoNotOptimize(ExisteNoCombo(cities.field->Estado(), last));
+    benchmark::DoNotOptimize(ExisteNoCombo(cities.field.Events().Estado(), last));
   }
 }
 BENCHMARK(ExistsLastLine);

@@ -1,20 +1,17 @@
 #include <fcntl.h>
 #include <unistd.h>
 
-#include <algorithm>
-#include <array>
 #include <cerrno>
 #include <system_error>
 #include <utility>
 
 #include "cli/commands.h"
 #include "cli/line_reader.h"
-#include "cli/local_clock.h"
+#include "cli/names.h"
 #include "cli/one_line.h"
 #include "cli/output_buffer.h"
 #include "cli/progress_bar.h"
-#include "cli/utf8.h"
-#include "hosts/memory/field.h"
+#include "hosts/kit/system_clock.h"
 #include "hosts/memory/form.h"
 
 namespace gabarito::cli {
@@ -28,7 +25,7 @@ constexpr std::string_view kReplacement = "\xEF\xBF\xBD";
 // Keeps the texts of the message boxes of one line. Several boxes of one line stand in its last column
 // together: the load and the check of 40,000 digits could each tell of their own. The buffer is kept, so a
 // file of refusals allocates no more than a file of good values.
-class Messages final : public memory::Recorder {
+class Messages final : public kit::Recorder {
  public:
   void MsgBox(std::u16string_view text, std::int32_t, std::optional<std::u16string_view>,
               std::int32_t) override {
@@ -88,14 +85,10 @@ std::string Repaired(std::string_view line) {
 class LineCheck {
  public:
   explicit LineCheck(const FieldOptions& options) : field_(form_.AddField("field")) {
-    form_.System().recorder = &messages_;
-    form_.System().clock.Set(LocalNow());
+    form_.Model().recorder = &messages_;
+    form_.System().clock.Set(kit::SystemClock().Now());
     field_.Create();
     Apply(options, *field_);
-    // A box can hold something even so: the masked one its template, a card number the blanks of its groups.
-    field_->Text({});
-    const Texts shown = Shown();
-    std::copy(shown.begin(), shown.end(), shown_when_empty_.begin());
   }
 
   // Appends the output line of `line`.
@@ -113,7 +106,7 @@ class LineCheck {
     messages_.Forget();
     field_->Text(text_);
     // Asked between load and check, since the check fills boxes by itself: today under gbDataAtual.
-    const bool loaded = !ShowsNothing();
+    const bool loaded = !field_->MostraVazio();
     const std::u16string value = field_->Text();
     if (messages_.Joined().empty()) {
       // "#" is how an empty interval reads: a value that comes back as it went in has lost nothing.
@@ -133,19 +126,6 @@ class LineCheck {
   bool Refused() const { return refused_; }
 
  private:
-  using Texts = std::array<std::u16string_view, 5>;
-
-  // What a load can write.
-  Texts Shown() const {
-    const Campo& c = field_->Estado();
-    return {c.mEntrada1->Text(), c.mEntrada2->Text(), c.mEntrada3->Text(), c.Combo1->Text(),
-            c.MaskEdBox1->Text()};
-  }
-  bool ShowsNothing() const {
-    const Texts shown = Shown();
-    return std::equal(shown.begin(), shown.end(), shown_when_empty_.begin());
-  }
-
   void AppendValue(std::u16string_view value, std::string& out) {
     column_.clear();
     AppendUtf8(value, column_);
@@ -156,7 +136,6 @@ class LineCheck {
   Messages messages_;
   memory::Form form_;
   memory::Field& field_;
-  std::array<std::u16string, 5> shown_when_empty_;
   std::u16string text_;
   std::string column_;
   std::uint64_t number_ = 0;

@@ -2,12 +2,10 @@
 #include <utility>
 
 #include "cli/commands.h"
-#include "cli/local_clock.h"
+#include "cli/names.h"
 #include "cli/one_line.h"
-#include "cli/properties.h"
-#include "cli/utf8.h"
 #include "gabarito/keyinject/send_input.h"
-#include "hosts/memory/field.h"
+#include "hosts/kit/system_clock.h"
 #include "hosts/memory/form.h"
 #include "hosts/memory/plain_box.h"
 
@@ -22,7 +20,7 @@ std::u16string Decoded(const std::string& value, const char* option) {
 
 // Shows message boxes as lines of a stream. Reading the value of a field checks it once more, so what was
 // told when the field was left comes again: the same box twice in a row is one line.
-class BoxesAsLines final : public memory::Recorder {
+class BoxesAsLines final : public kit::Recorder {
  public:
   explicit BoxesAsLines(std::ostream& out) : out_(out) {}
 
@@ -54,10 +52,9 @@ int RunField(const FieldCommandOptions& options, std::ostream& out, std::ostream
   if (options.keys) keys = Decoded(*options.keys, "--keys");
 
   memory::Form form;
-  memory::Environment& system = form.System();
   BoxesAsLines boxes(err);
-  system.recorder = &boxes;
-  system.clock.Set(LocalNow());
+  form.Model().recorder = &boxes;
+  form.System().clock.Set(kit::SystemClock().Now());
   memory::Field& field = form.AddField("field");
   memory::PlainBox& behind = form.AddBox("behind");
   field.Create();
@@ -66,12 +63,12 @@ int RunField(const FieldCommandOptions& options, std::ostream& out, std::ostream
   if (options.text) field->Text(text);
   // By way of the surface, as a host gives the focus: the field picks the child that is on show.
   form.SetFocus(*field.Surface());
-  SendKeyString(form.AllWindows(), system.kernel, system.dialogs, keys, true);
+  SendKeyString(form.Model().keyboard, form.System().kernel, form.Model().dialogs, keys, true);
   form.Run();
   // Raises the check. A refusal takes the focus back into the field, which changes nothing for what follows.
   form.SetFocus(behind);
   out << ToUtf8(field->Text()) << '\n';
-  system.recorder = nullptr;
+  form.Model().recorder = nullptr;
   return boxes.Shown() ? kRefused : kNothingRefused;
 }
 

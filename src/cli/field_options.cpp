@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-#include "cli/properties.h"
+#include "cli/names.h"
 
 namespace gabarito::cli {
 namespace {

@@ -16,11 +16,12 @@
 
 #include "cli/commands.h"
 #include "cli/form/form_command.h"
-#include "cli/properties.h"
-#include "cli/script/script.h"
-#include "cli/utf8.h"
+#include "cli/memory_stage.h"
+#include "cli/names.h"
+
 #include "gabarito/control/interface.h"
 #include "gabarito/control/versao.h"
+#include "script/script.h"
 
 namespace gabarito::cli {
 namespace {
@@ -80,14 +81,10 @@ std::vector<std::string> Arguments(int argc, char** argv) {
   return arguments;
 }
 
-int RunScriptFile(const std::string& file) {
-  if (file.empty() || file == "-") return RunScript(std::cin, std::cout, std::cerr);
-  errno = 0;
-  std::ifstream in(file);
-  // A directory opens as a file and then reads as an empty one.
-  if (in && std::filesystem::is_directory(file)) errno = EISDIR;
-  if (errno != 0) throw std::system_error(errno, std::generic_category(), "cannot open " + file);
-  return RunScript(in, std::cout, std::cerr);
+int RunScriptFiles(const std::vector<std::string>& files) {
+  return script::RunScripts(
+      files, [] { return std::make_unique<MemoryStage>(); }, std::cin, std::cout, std::cerr,
+      "gabarito script");
 }
 
 // What the command that was given does, once the whole line is understood.
@@ -128,9 +125,9 @@ void AddBatch(CLI::App& program, Action& action) {
 
 void AddScript(CLI::App& program, Action& action) {
   CLI::App& command = *program.add_subcommand("script", "Play host and user actions and write what happens");
-  auto file = std::make_shared<std::string>();
-  command.add_option("FILE", *file, "Actions, one a line; standard input without it");
-  command.callback([file, &action] { action = [file] { return RunScriptFile(*file); }; });
+  auto files = std::make_shared<std::vector<std::string>>();
+  command.add_option("FILE", *files, "Actions, one a line; - or none for standard input");
+  command.callback([files, &action] { action = [files] { return RunScriptFiles(*files); }; });
 }
 
 void AddForm(CLI::App& program, Action& action) {

@@ -3,7 +3,7 @@
 #include <ostream>
 
 #include "cli/commands.h"
-#include "cli/properties.h"
+#include "cli/names.h"
 #include "gabarito/control/especie.h"
 #include "gabarito/control/interface.h"
 

@@ -10,10 +10,11 @@
 
 #include "cli/commands.h"
 #include "cli/line_reader.h"
-#include "cli/properties.h"
-#include "cli/script/script.h"
+#include "cli/memory_stage.h"
+#include "cli/names.h"
 #include "gabarito/control/interface.h"
 #include "gabarito/platform/erro.h"
+#include "script/script.h"
 
 namespace gabarito::cli {
 namespace {
@@ -153,7 +154,8 @@ TEST(Field, RefusesACommandThatIsWrong) {
 TEST(Script, TakesAByteOrderMarkAndBlanksInFrontOfALine) {
   std::istringstream in("\xEF\xBB\xBFnew\n  \t# a remark\n\t get Mask\n \n  \xEF\xBB\xBFget Mask\n");
   std::ostringstream out, err;
-  EXPECT_EQ(RunScript(in, out, err), 2);
+  const auto stage = [] { return std::make_unique<MemoryStage>(); };
+  EXPECT_EQ(script::RunScripts({}, stage, in, out, err, "gabarito script"), 2);
   EXPECT_TRUE(out.str().ends_with("\n{\"get\":\"Mask\",\"value\":100}\n")) << out.str();
   EXPECT_EQ(err.str(), "gabarito script: line 5: unknown action '\xEF\xBB\xBFget'\n");
 }

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "hosts/memory/field.h"
+#include "hosts/memory/form.h"
 
 namespace gabarito::memory {
 namespace {
@@ -61,13 +61,13 @@ TEST_F(Fields, ASeparatorBeyondTheCounterIsAnOverflow) {
 
 // Carets and lengths are 16-bit in the filter: one that is too large for that is not read.
 TEST_F(Fields, AKeyInAVeryLongTextIsJudgedByItself) {
-  struct Keys final : Recorder {
+  struct Keys final : kit::Recorder {
     std::string told;
     void Beep() override { told += "beep "; }
     void SendInput(std::span<const INPUT> events) override { told += std::to_string(events.size()) + " "; }
   } keys;
-  form.System().recorder = &keys;
-  TextBoxWidget& box = field.Parts().txt_entrada3D[0];
+  form.Model().recorder = &keys;
+  kit::TextBoxModel& box = field.Parts().txt_entrada3D[0];
   const struct {
     const char* name;
     std::int32_t mask;
@@ -91,19 +91,21 @@ TEST_F(Fields, AKeyInAVeryLongTextIsJudgedByItself) {
     box.MaxLength(row.limit);
     keys.told.clear();
     std::int16_t key = row.key;
-    field->txt_entrada3D_KeyPress(0, key);
+    field.Events().txt_entrada3D_KeyPress(0, key);
     EXPECT_EQ(keys.told, row.told) << row.name;
   }
-  form.System().recorder = nullptr;
+  form.Model().recorder = nullptr;
 }
 
 TEST_F(Fields, AnExitReadsTheBoxesFromTheFirstToTheLast) {
+  form.MakeFieldsBreakable();
+  field.Create();
   for (const std::int32_t mask : {gbData, gbMesAno, gbHora}) {
     field->Mask(mask);
     field->Text(mask == gbMesAno ? u"02/2003" : u"01/02/2003");
     std::vector<std::string> operations;
     form.System().faults.Watch(&operations);
-    field->UserControl_ExitFocus();
+    field.Events().UserControl_ExitFocus();
     form.System().faults.Watch(nullptr);
     std::string read;
     for (const std::string& operation : operations) {
@@ -125,7 +127,7 @@ TEST_F(Fields, AProgramMayTurnTheFieldOverWhileAMessageBoxIsOpen) {
       {"disabled", [](Gabarito& g) { g.Enabled(false); }},
       {"another value", [](Gabarito& g) { g.Text(u"1"); }},
       {"read again", [](Gabarito& g) { g.Text(); }},
-      {"terminated", [](Gabarito& g) { g.UserControl_Terminate(); }},
+      {"terminated", [](Gabarito& g) { FieldEvents(g).UserControl_Terminate(); }},
   };
   for (const auto& row : rows) {
     for (const std::int32_t mask : {gbCPF, gbData, gbMesAno, gbHora, gbCEP, gbLetra, gbEnderecoEmail}) {
@@ -148,12 +150,12 @@ constexpr std::int32_t kPaint = 15;
 
 // A procedure of somebody else, over whatever was in place when it came.
 WindowProc under = 0;
-std::int32_t Foreign(User32& user32, WindowHandle window, std::int32_t message, std::int32_t wParam,
+std::int32_t Foreign(WindowHook& hook, WindowHandle window, std::int32_t message, std::int32_t wParam,
                      std::int32_t lParam) {
-  return user32.CallWindowProcA(under, window, message, wParam, lParam);
+  return hook.CallWindowProcA(under, window, message, wParam, lParam);
 }
 
-struct Drawing : Recorder {
+struct Drawing : kit::Recorder {
   std::string told;
   std::function<void()> fails = [] {};
   void DrawEdge(const RECT&, std::int32_t, std::int32_t) override {
@@ -169,21 +171,21 @@ struct Drawing : Recorder {
 
 TEST_F(Fields, AHookUnderSomebodyElsesIsNotPutOnOnceMore) {
   Drawing drawing;
-  form.System().recorder = &drawing;
+  form.Model().recorder = &drawing;
   Windows& windows = form.AllWindows();
-  const WindowHandle window = field.Parts().Combo1.Window();
-  field->HookCombo();
+  const WindowHandle window = field.Parts().Combo1.hWnd();
+  field.Events().HookCombo();
   under = windows.SetWindowLongA(window, -4, reinterpret_cast<WindowProc>(&Foreign));
-  field->HookCombo();
+  field.Events().HookCombo();
   windows.Send(window, kPaint, 0, 0);
   EXPECT_EQ(drawing.told, "old15 edge edge ");
   // Once it is off it may go on again.
-  field->UnhookCombo();
-  field->HookCombo();
+  field.Events().UnhookCombo();
+  field.Events().HookCombo();
   drawing.told.clear();
   windows.Send(window, kPaint, 0, 0);
   EXPECT_EQ(drawing.told, "old15 edge edge ");
-  form.System().recorder = nullptr;
+  form.Model().recorder = nullptr;
 }
 
 TEST_F(Fields, NothingEscapesTheWindowProcedure) {
@@ -193,19 +195,19 @@ TEST_F(Fields, NothingEscapesTheWindowProcedure) {
   } rows[] = {
       {[] { throw Erro(5); }, "#5 "}, {[] { throw std::bad_alloc(); }, "#7 "}, {[] { throw 5; }, "#51 "}};
   Drawing drawing;
-  form.System().recorder = &drawing;
+  form.Model().recorder = &drawing;
   for (const auto& row : rows) {
     drawing.fails = row.fails;
-    field->HookCombo();
-    EXPECT_NO_THROW(form.AllWindows().Send(field.Parts().Combo1.Window(), kPaint, 0, 0)) << row.told;
+    field.Events().HookCombo();
+    EXPECT_NO_THROW(form.AllWindows().Send(field.Parts().Combo1.hWnd(), kPaint, 0, 0)) << row.told;
     EXPECT_NE(drawing.told.find(std::string("old15 edge Unhook on Error, ") + row.told), std::string::npos)
         << drawing.told;
     EXPECT_EQ(form.AllWindows().OpenContexts(), 0) << row.told;
     drawing.told.clear();
-    form.AllWindows().Send(field.Parts().Combo1.Window(), kPaint, 0, 0);
+    form.AllWindows().Send(field.Parts().Combo1.hWnd(), kPaint, 0, 0);
     EXPECT_EQ(drawing.told, "") << row.told;
   }
-  form.System().recorder = nullptr;
+  form.Model().recorder = nullptr;
 }
 
 }  // namespace

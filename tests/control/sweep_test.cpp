@@ -54,7 +54,7 @@ TEST(Sweep, ALayoutPlacesWhatItCan) {
 }
 
 TEST(Sweep, ASurfaceThatGrowsLaysOutAgainInside) {
-  const Passo resize = [](Cena& c) { c.campo->UserControl_Resize(); };
+  const Passo resize = [](Cena& c) { c.campo.Events().UserControl_Resize(); };
   for (const std::int32_t mascara : {gbHora, gbData}) {
     Varre({.nome = "low surface",
            .prepara = Como(mascara),
@@ -80,7 +80,7 @@ void VarreSaidas(std::initializer_list<Saida> saidas, Passo (*prepara)(std::int3
     Caso caso{
         .nome = "exit of " + std::to_string(saida.mascara) + " with " + testing::PrintToString(saida.texto),
         .prepara = prepara(saida.mascara, saida.texto),
-        .roda = [](Cena& c) { c.campo->UserControl_ExitFocus(); }};
+        .roda = [](Cena& c) { c.campo.Events().UserControl_ExitFocus(); }};
     for (Desvio desvio : saida.desvios) caso.desvios.push_back({desvio.onde + 8, desvio.segue});
     Varre(caso);
   }
@@ -153,15 +153,17 @@ TEST(Sweep, ARefusalGoesOn) {
 }
 
 TEST(Sweep, TheLifeOfAFieldGoesOn) {
-  Varre({.nome = "Initialize", .prepara = kNada, .roda = [](Cena& c) { c.campo->UserControl_Initialize(); }});
+  Varre({.nome = "Initialize", .prepara = kNada, .roda = [](Cena& c) {
+           c.campo.Events().UserControl_Initialize();
+         }});
   Varre({.nome = "WriteProperties", .prepara = kNada, .roda = [](Cena& c) {
-           c.campo->UserControl_WriteProperties(c);
+           c.campo.Events().UserControl_WriteProperties(c);
          }});
   const std::string cores = "Host.Bag *.BackColor= UserControl.PropertyChanged=";
   const std::string ligado = "Host.Bag *.Enabled= UserControl.PropertyChanged=";
   Caso caso{.nome = "ReadProperties",
             .prepara = kNada,
-            .roda = [](Cena& c) { c.campo->UserControl_ReadProperties(c); },
+            .roda = [](Cena& c) { c.campo.Events().UserControl_ReadProperties(c); },
             .dentro = {{"", [](Cena& c) { c.campo->Appearance(1); }},
                        {"", [](Cena& c) { c.campo->Mask(gbDefUsr); }},
                        {"Host.Bag", [](Cena& c) { c.campo->MaskText(u"##"); }}},
@@ -172,10 +174,11 @@ TEST(Sweep, TheLifeOfAFieldGoesOn) {
 TEST(Sweep, ASetterGoesOn) {
   Varre({.nome = "BackColor", .prepara = kNada, .roda = [](Cena& c) { c.campo->BackColor(1); }});
   Varre({.nome = "Enabled", .prepara = kNada, .roda = [](Cena& c) { c.campo->Enabled(false); }});
-  Varre({.nome = "MaskText",
-         .prepara = kNada,
-         .roda = [](Cena& c) { c.campo->MaskText(u"##"); },
-         .dentro = {{"UserControl.PropertyChanged=", [](Cena& c) { c.campo->UserControl_Resize(); }}}});
+  Varre(
+      {.nome = "MaskText",
+       .prepara = kNada,
+       .roda = [](Cena& c) { c.campo->MaskText(u"##"); },
+       .dentro = {{"UserControl.PropertyChanged=", [](Cena& c) { c.campo.Events().UserControl_Resize(); }}}});
   Varre({.nome = "ComboListIndex", .prepara = Como(gbEstado), .roda = [](Cena& c) {
            c.campo->ComboListIndex(2);
          }});
@@ -197,14 +200,14 @@ TEST(Sweep, ASetterGoesOn) {
          .antes = 3,
          .depois = 1});
   Varre({.nome = "AmbientChanged", .prepara = kNada, .roda = [](Cena& c) {
-           c.campo->UserControl_AmbientChanged(u"BackColor");
+           c.campo.Events().UserControl_AmbientChanged(u"BackColor");
          }});
   Varre({.nome = "Sobre", .prepara = kNada, .roda = [](Cena& c) { c.campo->Sobre(); }});
   Varre({.nome = "ApagaCampos", .prepara = kNada, .roda = [](Cena& c) { c.campo->ApagaCampos(); }});
 }
 
 TEST(Sweep, TheFocusGoesOn) {
-  const Passo foco = [](Cena& c) { c.campo->UserControl_GotFocus(); };
+  const Passo foco = [](Cena& c) { c.campo.Events().UserControl_GotFocus(); };
   Varre({.nome = "boxes",
          .prepara = kNada,
          .roda = foco,
@@ -213,8 +216,10 @@ TEST(Sweep, TheFocusGoesOn) {
          .prepara = Como(gbEstado),
          .roda = foco,
          .desvios = {{1, "E0.SetFocus= MaskEdBox1.SetFocus="}}});
-  Varre({.nome = "box", .prepara = kNada, .roda = [](Cena& c) { c.campo->txt_entrada_GotFocus(1); }});
-  Varre({.nome = "masked box", .prepara = kNada, .roda = [](Cena& c) { c.campo->MaskEdBox1_GotFocus(); }});
+  Varre({.nome = "box", .prepara = kNada, .roda = [](Cena& c) { c.campo.Events().txt_entrada_GotFocus(1); }});
+  Varre({.nome = "masked box", .prepara = kNada, .roda = [](Cena& c) {
+           c.campo.Events().MaskEdBox1_GotFocus();
+         }});
 }
 
 TEST(Sweep, AKeyGoesOn) {
@@ -242,7 +247,7 @@ TEST(Sweep, AKeyGoesOn) {
               .roda =
                   [&](Cena& c) {
                     std::int16_t codigo = tecla.codigo;
-                    c.campo->txt_entrada3D_KeyPress(tecla.caixa, codigo);
+                    c.campo.Events().txt_entrada3D_KeyPress(tecla.caixa, codigo);
                   },
               .depois = 2};
     if (!tecla.sem_texto.empty()) caso.desvios = {{3, tecla.sem_texto}};
@@ -250,11 +255,11 @@ TEST(Sweep, AKeyGoesOn) {
   }
   Varre({.nome = "Enter in the masked box", .prepara = kNada, .roda = [](Cena& c) {
            std::int16_t codigo = 13;
-           c.campo->MaskEdBox1_KeyPress(codigo);
+           c.campo.Events().MaskEdBox1_KeyPress(codigo);
          }});
   Varre({.nome = "key down", .prepara = kNada, .roda = [](Cena& c) {
            std::int16_t codigo = 'A', shift = 0;
-           c.campo->txt_entrada3D_KeyDown(0, codigo, shift);
+           c.campo.Events().txt_entrada3D_KeyDown(0, codigo, shift);
          }});
 }
 
@@ -265,10 +270,10 @@ TEST(Sweep, TheComboGoesOn) {
       c.campo.Parts().Combo1.Text(texto);
     };
   };
-  const Passo sai = [](Cena& c) { c.campo->Combo1_LostFocus(); };
+  const Passo sai = [](Cena& c) { c.campo.Events().Combo1_LostFocus(); };
   Varre({.nome = "Delete", .prepara = com(u"abc"), .roda = [](Cena& c) {
            std::int16_t codigo = 46, shift = 0;
-           c.campo->Combo1_KeyUp(codigo, shift);
+           c.campo.Events().Combo1_KeyUp(codigo, shift);
          }});
   // An entry that is not found among the others is looked for by its beginning.
   const std::string procura = "Combo1.Text Combo1.ListCount Combo1.List Combo1.List Combo1.Text=";

@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <sstream>
 
+#include "gabarito/state/campo.h"
+
 namespace gabarito {
 namespace {
 
@@ -87,7 +89,7 @@ class Varredura {
     Cena cena;
     caso.prepara(cena);
     inteira_ = cena.Ouve(caso.roda);
-    segmentos_ = cena.campo->Estado().mSegmentos;
+    segmentos_ = cena.campo.Events().Estado().mSegmentos;
     for (const Dentro& dentro : caso.dentro) {
       Lista lista = cena.Ouve(dentro.passo);
       if (!dentro.operacao.empty()) lista.insert(lista.begin(), dentro.operacao);
@@ -106,7 +108,7 @@ class Varredura {
     if (feita.size() <= p || feita[p] != inteira_[p] + "!" || !SegueEm(feita, 0, Trecho(inteira_, 0, p))) {
       return "the run differs before the failure";
     }
-    if (caso_.sem_modo.empty() && cena.campo->Estado().mSegmentos != segmentos_) {
+    if (caso_.sem_modo.empty() && cena.campo.Events().Estado().mSegmentos != segmentos_) {
       return "mSegmentos was not written";
     }
     for (const Desvio& desvio : caso_.desvios) {
@@ -195,7 +197,8 @@ Lista Operacoes(std::string texto) {
 }
 
 Cena::Cena() : campo(form.AddField("field")) {
-  form.System().recorder = this;
+  form.MakeFieldsBreakable();
+  form.Model().recorder = this;
   form.System().dialogs.onMsgBox = [this](auto, auto, auto) {
     Usa("MsgBox");
     return kAnswerOk;
@@ -216,7 +219,7 @@ Lista Cena::Ouve(const Passo& passo, std::size_t n) {
 }
 
 Variant Cena::ReadProperty(std::u16string_view key, const Variant& absent) const {
-  falhas.Use("Host", "Bag", memory::Access::kRead);
+  falhas.Use("Host", "Bag", kit::Access::kRead);
   return key == u"MaskText" ? Variant(std::u16string(u"##")) : absent;
 }
 

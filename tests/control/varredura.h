@@ -6,7 +6,6 @@
 #include <string>
 #include <vector>
 
-#include "hosts/memory/field.h"
 #include "hosts/memory/form.h"
 
 namespace gabarito {
@@ -21,21 +20,21 @@ using Lista = std::vector<std::string>;
 Lista Operacoes(std::string texto);
 
 // A form with one field in the 3D look, whose services can fail as its children do, under the name "Host".
-class Cena final : public memory::Recorder, public PropertyBag {
+class Cena final : public kit::Recorder, public PropertyBag {
  public:
   Cena();
   Variant ReadProperty(std::u16string_view key, const Variant& absent) const override;
   void WriteProperty(std::u16string_view, const Variant&, const Variant&) override { Usa("Bag"); }
   void SendInput(std::span<const INPUT>) override { Usa("SendInput"); }
-  void Usa(std::string_view servico) { falhas.Use("Host", servico, memory::Access::kWrite); }
+  void Usa(std::string_view servico) { falhas.Use("Host", servico, kit::Access::kWrite); }
 
   // What `passo` does while the n-th operation fails; 0 fails none.
   Lista Ouve(const std::function<void(Cena&)>& passo, std::size_t n = 0);
 
-  memory::TextBoxWidget& Caixa(std::size_t i) { return campo.Parts().txt_entrada3D[i]; }
+  kit::TextBoxModel& Caixa(std::size_t i) { return campo.Parts().txt_entrada3D[i]; }
 
   memory::Form form;
-  memory::FaultSwitch& falhas = form.System().faults;
+  kit::FaultSwitch& falhas = form.System().faults;
   memory::Field& campo;
 };
 

@@ -4,7 +4,7 @@
 #include <iterator>
 #include <string_view>
 
-#include "hosts/memory/design.h"
+#include "hosts/kit/design.h"
 #include "script_fuzz.h"
 
 namespace gabarito::cli {
@@ -104,7 +104,7 @@ std::string Word(std::string_view name, const Dice& dice) {
   if (name == "letters") return Letters(dice(70), dice);
   // Beyond what a counter of 16 bits holds.
   if (name == "long") return std::string(dice(2) == 0 ? 40000 : 300, static_cast<char>('0' + dice(70)));
-  if (name == "child") return std::string(memory::kChildren[dice(std::size(memory::kChildren))].name);
+  if (name == "child") return std::string(kit::kChildren[dice(std::size(kit::kChildren))].name);
   const auto kinds = static_cast<std::uint32_t>(Especies().size());
   if (name == "mask") return std::string(Especies()[dice(kinds)].nome);
   for (const auto& [known, words] : kWords) {

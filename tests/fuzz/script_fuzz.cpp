@@ -3,10 +3,13 @@
 #include <cmath>
 #include <exception>
 
+#include "cli/names.h"
+#include "gabarito/state/campo.h"
+
 namespace gabarito::cli {
 namespace {
 
-bool Sound(const memory::Geometry& place) {
+bool Sound(const kit::Geometry& place) {
   return std::isfinite(place.left) && std::isfinite(place.top) && std::isfinite(place.width) &&
          std::isfinite(place.height) && place.width >= 0 && place.height >= 0;
 }
@@ -20,7 +23,7 @@ bool SoundEntry(const Widget& widget) {
          std::int64_t{entry.SelStart()} + entry.SelLength() <= size;
 }
 
-std::string BrokenChild(const memory::FieldParts& parts) {
+std::string BrokenChild(const kit::FieldParts& parts) {
   for (std::size_t i = 0; i < 3; ++i) {
     if (!Sound(parts.lbl_controle[i].Bounds())) return "a label is out of place";
     const bool boxes = SoundEntry(parts.txt_entrada[i]) && SoundEntry(parts.txt_entrada3D[i]);
@@ -59,11 +62,12 @@ std::string Attack::Run(const std::string& line) {
 }
 
 std::string Attack::BrokenInvariant(const std::string& line) {
-  const memory::Focusable* focused = script_.TheForm().Focused();
+  const kit::Focusable* focused = stage_.TheForm().Focused();
   if (focused == nullptr || !focused->CanTakeFocus()) return "the focus is where it cannot be";
-  memory::Field& field = script_.TheField();
+  kit::FieldModel& field = stage_.Field();
   if (!field.Exists()) return {};
-  const Campo& state = field->Estado();
+  const FieldEvents events = field.Events();
+  const Campo& state = events.Estado();
   if (!OneArray(state)) return "the active boxes are not one array";
   if (state.mMaxLength < 0) return "mMaxLength is negative";
   if (state.mSegmentos < 0 || state.mSegmentos > 3) return "mSegmentos is out of range";

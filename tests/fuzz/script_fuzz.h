@@ -9,7 +9,8 @@
 #include <sstream>
 #include <string>
 
-#include "cli/script/script.h"
+#include "cli/memory_stage.h"
+#include "script/script.h"
 
 namespace gabarito::cli {
 
@@ -29,7 +30,8 @@ class Attack {
   std::string BrokenInvariant(const std::string& line);
 
   std::ostringstream out_;
-  Script script_{out_};
+  MemoryStage stage_;
+  script::Script script_{stage_, out_};
   std::u16string value_;  // mValor behind the line before
 };
 

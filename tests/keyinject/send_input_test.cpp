@@ -11,16 +11,17 @@
 #include "../platform/allocations.h"
 #include "../platform/expect.h"
 #include "gabarito/keyinject/key_string.h"
-#include "hosts/memory/environment.h"
+#include "hosts/kit/keyboard_layout.h"
+#include "hosts/kit/regional_kernel.h"
 
 namespace gabarito {
 namespace {
 
-// User32 as far as typing needs it: a keyboard of a given layout, and a record of all that was sent.
-struct RecordingUser32 : User32 {
+// A keyboard of a given layout, and a record of all that was sent.
+struct RecordingQueue : InputQueue {
   std::vector<INPUT> records;  // of the last call
   int calls = 0;
-  const memory::KeyboardLayout* layout = &memory::Abnt2();
+  const kit::KeyboardLayout* layout = &kit::Abnt2();
   bool capsLock = false;
 
   // "+16" is a press and "-16" a release without a scan code; "9" is the press of a key and its release with
@@ -56,24 +57,14 @@ struct RecordingUser32 : User32 {
     return type == 0 && handle == layout->handle ? layout->ScanCode(key) : 0;
   }
   std::int16_t GetKeyState(std::int32_t key) const override { return key == kVkCapital && capsLock; }
-
-  // clang-format off
-  // Nothing of the following is asked for by typing.
-  std::int32_t SendMessageA(WindowHandle, int, int, std::u16string_view) override { return 0; }
-  std::intptr_t GetPropA(WindowHandle, std::string_view) const override { return 0; }
-  std::intptr_t GetWindowLongA(WindowHandle, std::int32_t) const override { return 0; }
-  std::intptr_t SetWindowLongA(WindowHandle, std::int32_t, std::intptr_t) override { return 0; }
-  std::int32_t CallWindowProcA(WindowProc, WindowHandle, int, int, int) override { return 0; }
-  DeviceContext GetWindowDC(WindowHandle) override { return 0; }
-  void SetPropA(WindowHandle, std::string_view, std::intptr_t) override {}
-  void LockWindowUpdate(WindowHandle) override {} void GetClientRect(WindowHandle, RECT&) const override {}
-  void ReleaseDC(WindowHandle, DeviceContext) override {} void InflateRect(RECT&, int, int) const override {}
-  void DrawEdge(DeviceContext, const RECT&, int, int) override {}
-  // clang-format on
 };
 
-struct RecordedSendKeys : memory::Recorder {
+struct RecordedSendKeys : Dialogs {
   std::u16string keys;  // of all SendKeys: the text, and "!" for one to wait for
+  std::int32_t MsgBox(std::u16string_view, std::int32_t, std::optional<std::u16string_view>) override {
+    return 0;
+  }
+  void Beep() override {}
   void SendKeys(std::u16string_view text, bool wait) override { keys.append(text).append(wait, u'!'); }
 };
 
@@ -85,30 +76,28 @@ std::vector<std::u16string_view> Split(std::u16string_view text, std::u16string_
 }
 
 struct Typing : testing::Test {
-  RecordingUser32 user32;
+  RecordingQueue queue;
   RecordedSendKeys stock;
-  memory::Environment system;
-
-  Typing() { system.recorder = &stock; }
+  kit::RegionalKernel kernel;
 
   // The number of records, all sent in one call, or the number of the error, negative, if nothing was sent.
   int Send(std::u16string_view text, bool wait = true) {
-    user32.calls = 0;
-    user32.records.clear();
+    queue.calls = 0;
+    queue.records.clear();
     try {
-      SendKeyString(user32, system.kernel, system.dialogs, text, wait);
+      SendKeyString(queue, kernel, stock, text, wait);
     } catch (const Erro& erro) {
-      return user32.calls == 0 ? -erro.Number() : 0;
+      return queue.calls == 0 ? -erro.Number() : 0;
     }
-    return user32.calls == (user32.records.empty() ? 0 : 1) ? static_cast<int>(user32.records.size()) : -1;
+    return queue.calls == (queue.records.empty() ? 0 : 1) ? static_cast<int>(queue.records.size()) : -1;
   }
 
-  // Rows of a key string, " = ", its records as RecordingUser32 writes them, and "; ".
+  // Rows of a key string, " = ", its records as RecordingQueue writes them, and "; ".
   void ExpectRecords(std::u16string_view rows) {
     for (const std::u16string_view row : Split(rows, u"; ")) {
       const auto parts = Split(row, u" = ");
       EXPECT_GE(Send(parts[0]), 0) << testing::PrintToString(row);
-      const std::string sent = user32.Sent(), wanted(parts.at(1).begin(), parts.at(1).end());
+      const std::string sent = queue.Sent(), wanted(parts.at(1).begin(), parts.at(1).end());
       EXPECT_EQ(sent, wanted + (sent.empty() ? "" : " ")) << testing::PrintToString(row);
     }
   }
@@ -145,7 +134,7 @@ TEST_F(Typing, WhatHasNoKeyGoesOutInUnicodeAndWhatCannotBeReadIsDropped) {
 }
 
 TEST_F(Typing, CapsLockTurnsOverTheShiftOfLettersOutsideBraces) {
-  user32.capsLock = true;
+  queue.capsLock = true;
   ExpectRecords(
       u"aA = +16 65 -16 65; (zZ) = +16 90 -16 90; 1! = 49 +16 49 -16; \u00E7 = 186; {a} = 65; "
       u"[@ = 221 +16 50 -16");
@@ -174,7 +163,7 @@ TEST_F(Typing, TheOldestSystemsGetTheStockSendKeys) {
   // The platform, the major and the minor version, and the records sent.
   for (const auto& row : std::initializer_list<std::array<int, 4>>{
            {1, 4, 0, 0}, {1, 4, 9, 0}, {1, 4, 10, 4}, {1, 5, 0, 4}, {1, 3, 51, 4}, {2, 4, 0, 4}}) {
-    system.kernel.version = {148, row[1], row[2], 0, row[0]};
+    kernel.version = {148, row[1], row[2], 0, row[0]};
     EXPECT_EQ(Send(u"+{TAB}", row[2] == 9), row[3]) << testing::PrintToString(row);
   }
   EXPECT_EQ(stock.keys, u"+{TAB}+{TAB}!");
@@ -182,7 +171,7 @@ TEST_F(Typing, TheOldestSystemsGetTheStockSendKeys) {
 
 TEST_F(Typing, AWarmThreadAllocatesNothing) {
   const std::u16string_view text = u"{TAB}+{TAB}{PRINTSCREEN 2 x}(ab\u20AC)~{a";
-  user32.records.reserve(static_cast<std::size_t>(Send(text)));
+  queue.records.reserve(static_cast<std::size_t>(Send(text)));
   const std::size_t before = allocations;
   Send(text);
   EXPECT_EQ(allocations, before);

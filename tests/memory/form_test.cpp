@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "hosts/memory/field.h"
 #include "hosts/memory/plain_box.h"
 
 namespace gabarito::memory {
@@ -46,8 +45,8 @@ TEST(Form, AHookedListGivesBackItsDrawingContextAndLetsNoErrorOut) {
   Form form;
   Field& field = form.AddField("field");
   field.Create();
-  field->HookCombo();
-  const WindowHandle window = field.Parts().Combo1.Window();
+  field.Events().HookCombo();
+  const WindowHandle window = field.Parts().Combo1.hWnd();
   form.AllWindows().Send(window, 15, 0, 0);
   EXPECT_EQ(form.AllWindows().OpenContexts(), 0);
   form.AllWindows().SetPropA(window, "ObjectPointer", 0);

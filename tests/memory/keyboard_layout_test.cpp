@@ -1,10 +1,10 @@
-#include "hosts/memory/keyboard_layout.h"
+#include "hosts/kit/keyboard_layout.h"
 
 #include <gtest/gtest.h>
 
 #include "gabarito/platform/text.h"
 
-namespace gabarito::memory {
+namespace gabarito::kit {
 namespace {
 
 TEST(KeyboardLayout, TheStrokeOfACharacterTypesThatCharacter) {
@@ -64,4 +64,4 @@ TEST(KeyboardLayout, AKeyTypesByItsShiftStateAndCapsLock) {
 }
 
 }  // namespace
-}  // namespace gabarito::memory
+}  // namespace gabarito::kit

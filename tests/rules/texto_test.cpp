@@ -8,7 +8,7 @@
 #include "gabarito/platform/number.h"
 #include "gabarito/rules/arredonda.h"
 #include "gabarito/rules/moeda.h"
-#include "hosts/memory/environment.h"
+#include "hosts/kit/regional_kernel.h"
 #include "tabela.h"
 
 namespace gabarito {
@@ -64,15 +64,15 @@ TEST(EhLetra, OrdersSeveralCharactersAsAText) {
 
 using enum FormaDeNumero;
 
-memory::SettableKernel Sistema(std::u16string_view decimal, std::u16string_view milhar) {
-  memory::SettableKernel sistema;
+kit::RegionalKernel Sistema(std::u16string_view decimal, std::u16string_view milhar) {
+  kit::RegionalKernel sistema;
   sistema.regional.decimal = decimal;
   sistema.regional.thousands = milhar;
   return sistema;
 }
 
 std::u16string Formata(std::u16string_view valor, FormaDeNumero forma,
-                       const memory::SettableKernel& sistema = Sistema(u",", u".")) {
+                       const kit::RegionalKernel& sistema = Sistema(u",", u".")) {
   CacheDeArredonda cache;
   return FormataComoReal(valor, forma, sistema, cache);
 }

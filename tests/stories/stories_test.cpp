@@ -13,10 +13,10 @@
 #include <string>
 #include <vector>
 
-#include "cli/properties.h"
-#include "cli/script/script.h"
+#include "cli/memory_stage.h"
+#include "script/script.h"
 
-namespace gabarito::cli {
+namespace gabarito::script {
 namespace {
 
 constexpr std::string_view kExpected = "#= ";
@@ -72,8 +72,10 @@ TEST_P(Story, HappensAsTold) {
   std::ifstream file(GetParam());
   const std::vector<std::string> lines = LinesOf(file);
   ASSERT_FALSE(lines.empty()) << GetParam();
+  if (!IsFor(lines[0], "memory")) GTEST_SKIP();
   std::stringstream out;
-  Script script(out);
+  cli::MemoryStage stage;
+  Script script(stage, out);
   std::string recorded;
   std::string untold;
   for (std::size_t i = 0; i < lines.size();) {
@@ -116,4 +118,4 @@ INSTANTIATE_TEST_SUITE_P(Of, Story, testing::ValuesIn(Stories()),
                          [](const auto& story) { return story.param.stem().string(); });
 
 }  // namespace
-}  // namespace gabarito::cli
+}  // namespace gabarito::script

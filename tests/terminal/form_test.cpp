@@ -7,8 +7,8 @@
 #include <map>
 
 #include "cli/form/field_list.h"
-#include "gabarito/platform/user32.h"
-#include "hosts/memory/utf8.h"
+#include "gabarito/platform/virtual_keys.h"
+#include "hosts/kit/utf8.h"
 #include "hosts/terminal/form_session.h"
 #include "hosts/terminal/message_box.h"
 #include "hosts/terminal/palette.h"
@@ -25,7 +25,7 @@ std::vector<FieldSpec> Listed(const std::string& list) { return cli::ForForm(cli
 // Name=value of each field, as the command gets them.
 std::string Told(FormModel& model) {
   std::string told;
-  for (const auto& [name, value] : model.Values()) told += name + "=" + memory::ToUtf8(value) + ";";
+  for (const auto& [name, value] : model.Values()) told += name + "=" + kit::ToUtf8(value) + ";";
   return told;
 }
 

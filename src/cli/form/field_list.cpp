@@ -8,7 +8,7 @@
 #include <sstream>
 #include <system_error>
 
-#include "cli/utf8.h"
+#include "cli/names.h"
 #include "gabarito/platform/erro.h"
 #include "gabarito/state/mascaras.h"
 

@@ -11,7 +11,7 @@
 #include <string_view>
 #include <vector>
 
-#include "cli/properties.h"
+#include "cli/names.h"
 #include "hosts/terminal/form_model.h"
 
 namespace gabarito::cli {

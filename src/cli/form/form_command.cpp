@@ -3,8 +3,8 @@
 #include <iostream>
 
 #include "cli/form/field_list.h"
-#include "cli/local_clock.h"
-#include "cli/utf8.h"
+#include "cli/names.h"
+#include "hosts/kit/system_clock.h"
 #include "hosts/terminal/form_session.h"
 #include "hosts/terminal/terminal.h"
 
@@ -28,7 +28,7 @@ that ended the form, with nothing printed. NO_COLOR is honoured.)";
 int RunForm(const std::string& fieldsFile) {
   // The list is judged first: what is wrong with it is told with or without a terminal.
   terminal::FormModel model(ForForm(fieldsFile.empty() ? BuiltInFields() : ReadFieldListFile(fieldsFile)),
-                            LocalNow);
+                            [] { return kit::SystemClock().Now(); });
   // The terminal is given back before anything is written to it.
   try {
     terminal::Terminal terminal;

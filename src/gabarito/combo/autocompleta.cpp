@@ -5,7 +5,6 @@
 #include "gabarito/combo/procura.h"
 #include "gabarito/platform/pula_erros.h"
 #include "gabarito/platform/text.h"
-#include "gabarito/platform/user32.h"
 
 namespace gabarito {
 namespace {
@@ -34,8 +33,8 @@ class TextoProcurado {
 };
 
 // Selects the first entry that begins with `procurado`, with the rest of it marked; false if there is none.
-bool Completa(Campo& c, ComboBox& cbo, std::u16string_view procurado) {
-  const std::int32_t achado = c.User32->SendMessageA(cbo.hWnd(), kCbFindString, -1, procurado);
+bool Completa(ComboBox& cbo, std::u16string_view procurado) {
+  const std::int32_t achado = cbo.SendMessageA(kCbFindString, -1, procurado);
   if (achado < 0) return false;
   cbo.ListIndex(static_cast<std::int16_t>(achado));
   cbo.SelStart(Len(procurado));
@@ -45,12 +44,12 @@ bool Completa(Campo& c, ComboBox& cbo, std::u16string_view procurado) {
 
 }  // namespace
 
-void AbreListaDoCombo(Campo& c, ComboBox& cbo) {
+void AbreListaDoCombo(ComboBox& cbo) {
   PulaErros pula;
-  pula([&] { c.User32->SendMessageA(cbo.hWnd(), kCbShowDropDown, 1, {}); });
+  pula([&] { cbo.SendMessageA(kCbShowDropDown, 1, {}); });
 }
 
-std::int16_t AutoCompleteComboBox(Campo& c, ComboBox& cbo, std::int16_t KeyAscii, bool limitarALista) {
+std::int16_t AutoCompleteComboBox(ComboBox& cbo, std::int16_t KeyAscii, bool limitarALista) {
   try {
     std::u16string_view inicio;
     char16_t digitado = 0;
@@ -64,12 +63,12 @@ std::int16_t AutoCompleteComboBox(Campo& c, ComboBox& cbo, std::int16_t KeyAscii
     } else if (KeyAscii < 32 || KeyAscii > 127) {
       return 0;
     } else {
-      AbreListaDoCombo(c, cbo);
+      AbreListaDoCombo(cbo);
       inicio = cbo.SelLength() == 0 ? cbo.Text() : Left(cbo.Text(), cbo.SelStart());
       digitado = Chr(KeyAscii);
     }
     const TextoProcurado procurado(inicio, {&digitado, digitado == 0 ? std::size_t{0} : std::size_t{1}});
-    if (Completa(c, cbo, procurado.Texto())) return 0;
+    if (Completa(cbo, procurado.Texto())) return 0;
     return limitarALista ? std::int16_t{0} : KeyAscii;
   } catch (const Erro&) {
     return KeyAscii;
@@ -79,7 +78,7 @@ std::int16_t AutoCompleteComboBox(Campo& c, ComboBox& cbo, std::int16_t KeyAscii
 void Combo1_Click(Campo& c) { c.Combo1->ToolTipText(c.Combo1->Text()); }
 
 void Combo1_KeyPress(Campo& c, std::int16_t& KeyAscii) {
-  KeyAscii = AutoCompleteComboBox(c, *c.Combo1, KeyAscii, true);
+  KeyAscii = AutoCompleteComboBox(*c.Combo1, KeyAscii, true);
 }
 
 void Combo1_KeyUp(Campo& c, std::int16_t& KeyCode, std::int16_t& Shift) {

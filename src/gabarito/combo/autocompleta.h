@@ -7,12 +7,12 @@
 namespace gabarito {
 
 // Opens the list; an open one stays open. Skip-on-error mode.
-void AbreListaDoCombo(Campo& c, ComboBox& cbo);
+void AbreListaDoCombo(ComboBox& cbo);
 
 // Lets the text grow only along the entries of the list. Returns the character that goes on to the edit
 // part, or 0: every change of the text is made here. With limitarALista a character that leaves the list is
 // refused. A run-time error ends it with `KeyAscii` unchanged, as if there were no type-ahead.
-std::int16_t AutoCompleteComboBox(Campo& c, ComboBox& cbo, std::int16_t KeyAscii, bool limitarALista);
+std::int16_t AutoCompleteComboBox(ComboBox& cbo, std::int16_t KeyAscii, bool limitarALista);
 
 // The tool tip shows the chosen entry. No mode of its own.
 void Combo1_Click(Campo& c);

@@ -9,14 +9,14 @@ namespace gabarito {
 void AjustaComoCidadeEstadoPopulado(Campo& c) {
   PulaErros pula;
   pula([&] { EscondeControles(c); });
-  pula([&] { c.User32->LockWindowUpdate(c.Combo1->hWnd()); });
+  pula([&] { c.Painting->LockWindowUpdate(c.Combo1->hWnd()); });
   pula([&] { c.Combo1->Width(c.UserControl->Width()); });
   pula([&] { c.Combo1->Left(0); });
   pula([&] { c.Combo1->Clear(); });
   for (std::int32_t id = 1; id <= kMunicipios; ++id) {
     pula([&] { c.Combo1->AddItem(LoadResString(id)); });
   }
-  pula([&] { c.User32->LockWindowUpdate(0); });
+  pula([&] { c.Painting->LockWindowUpdate(0); });
   pula([&] { c.Combo1->Visible(true); });
   c.mSegmentos = 0;
 }

@@ -1,31 +1,42 @@
 // Gabarito: one input field that becomes 23 by one value, Mask.
 //
-//   gabarito::Gabarito campo(host);        // a host, such as the one in hosts/memory
-//   campo.UserControl_Initialize();
-//   campo.UserControl_Show();
-//   campo.Mask(gabarito::gbCPF);
-//   campo.Text(u"11144477735");
-//   campo.Text();                          // u"111.444.777-35"
+//   gabarito::memory::Form form;           // a host, such as the one in hosts/memory
+//   gabarito::memory::Field& campo = form.AddField("cpf");
+//   campo.Create();
+//   campo->Mask(gabarito::gbCPF);
+//   campo->Text(u"11144477735");
+//   campo->Text();                         // u"111.444.777-35"
 //
-// A program uses the properties, methods and the event; a host raises the handlers at the end. One thread.
-// What fails reaches the caller as an Erro where a member says so; nothing else is thrown but faults of the
-// program itself (out of memory).
+// This is the program's face: properties, methods, the event. What a host raises is the class FieldEvents
+// (control/field_events.h). One thread. What fails reaches the caller as an Erro where a member says so;
+// nothing else is thrown but faults of the program itself (out of memory).
+//
+// A field may be destroyed while one of its members runs: from its own event, or while a message box of its
+// own is open. The member comes to its end and touches nothing of the object any more.
 #ifndef GABARITO_CONTROL_GABARITO_H
 #define GABARITO_CONTROL_GABARITO_H
 
+#include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
 
 #include "gabarito/platform/host.h"
-#include "gabarito/state/campo.h"
 #include "gabarito/state/mascaras.h"
 
 namespace gabarito {
 
+struct Campo;
+class FieldEvents;
+
+// A function of the program that is called on each KeyUp: key code and shift mask (1 Shift, 2 Ctrl, 4 Alt),
+// which it may change.
+using KeyUpHandler = std::function<void(std::int16_t& KeyCode, std::int16_t& Shift)>;
+
 class Gabarito {
  public:
-  // Everything named in `host` outlives the field.
+  // Everything named in `host` outlives the field, the children by Host::Filhos if need be. One allocation.
   explicit Gabarito(const Host& host);
   ~Gabarito();
   Gabarito(const Gabarito&) = delete;
@@ -79,6 +90,11 @@ class Gabarito {
   std::u16string Text();
   void Text(std::u16string_view dado);
 
+  // Whether the children show nothing of a value: right after a write of Text, that nothing of it could be
+  // taken. A write takes what it can and is silent about the rest, so 31/02/2024 under gbData leaves three
+  // empty boxes. Template and group blanks count as nothing. Runs no check and no handler.
+  bool MostraVazio() const;
+
   // An EMascaras; any other number is kept and shows a plain box.
   std::int32_t Mask() const;
   void Mask(std::int32_t M);
@@ -117,50 +133,16 @@ class Gabarito {
   // handler may set another one, or none.
   void KeyUp(KeyUpHandler handler);
 
-  // --- Handlers that the host raises ---------------------------------------------------------------------
-
-  void UserControl_Initialize();
-  void UserControl_ReadProperties(const PropertyBag& PropBag);
-  void UserControl_Show();
-  void UserControl_Resize();
-  void UserControl_WriteProperties(PropertyBag& PropBag) const;
-  void UserControl_Terminate();
-  void UserControl_AmbientChanged(std::u16string_view PropertyName);
-  void UserControl_GotFocus();
-  void UserControl_ExitFocus();
-
-  // `Index` is the position of the box in its array, 0 to 2. KeyAscii, KeyCode and Shift hold afterwards what
-  // the host goes on with.
-  void txt_entrada_GotFocus(std::int16_t Index);
-  void txt_entrada_KeyDown(std::int16_t Index, std::int16_t& KeyCode, std::int16_t& Shift);
-  void txt_entrada_KeyPress(std::int16_t Index, std::int16_t& KeyAscii);
-  void txt_entrada3D_GotFocus(std::int16_t Index);
-  void txt_entrada3D_KeyDown(std::int16_t Index, std::int16_t& KeyCode, std::int16_t& Shift);
-  void txt_entrada3D_KeyPress(std::int16_t Index, std::int16_t& KeyAscii);
-  void MaskEdBox1_GotFocus();
-  void MaskEdBox1_KeyPress(std::int16_t& KeyAscii);
-  void Combo1_Click();
-  void Combo1_KeyPress(std::int16_t& KeyAscii);
-  void Combo1_KeyUp(std::int16_t& KeyCode, std::int16_t& Shift);
-  void Combo1_LostFocus();
-
-  // --- The flat edge of Combo1, for hosts that want it -----------------------------------------------------
-
-  // See subclass/combo_subclass.h. Nothing in the field calls them.
-  void HookCombo();
-  void UnhookCombo();
-  std::int32_t ComboWindowProc(WindowHandle hWnd, std::int32_t uMsg, std::int32_t wParam,
-                               std::int32_t lParam);
-
-  // What the field remembers, for hosts and tests that show it.
-  const Campo& Estado() const { return c; }
-
  private:
   // Runs a public operation that can hide or disable children and lets the host settle the focus after it.
   template <class Operacao>
   void Publica(Operacao operacao);
 
-  Campo c;
+  // The state, held by the caller while an operation runs in which the program may destroy the field.
+  std::shared_ptr<Campo> Vivo() const { return c; }
+
+  friend class FieldEvents;
+  std::shared_ptr<Campo> c;
 };
 
 }  // namespace gabarito

@@ -9,7 +9,7 @@ namespace gabarito {
 namespace {
 
 void Envia(Campo& c, PulaErros& pula, std::u16string_view teclas) {
-  pula([&] { SendKeyString(*c.User32, *c.Kernel32, *c.Dialogs, teclas, true); });
+  pula([&] { SendKeyString(*c.InputQueue, *c.Kernel32, *c.Dialogs, teclas, true); });
 }
 
 // Counts are 16-bit: one beyond 32,767 is a read that fails, which leaves 0. It is not thrown, for it would

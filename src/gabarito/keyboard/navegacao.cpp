@@ -17,7 +17,7 @@ void MaskEdBox1_KeyPress(Campo& c, std::int16_t& KeyAscii) {
   if (KeyAscii != kVkReturn) return;
   KeyAscii = 0;
   PulaErros pula;
-  pula([&] { SendKeyString(*c.User32, *c.Kernel32, *c.Dialogs, u"{TAB}", true); });
+  pula([&] { SendKeyString(*c.InputQueue, *c.Kernel32, *c.Dialogs, u"{TAB}", true); });
   pula([&] { c.KeyUpDeEnter(); });
 }
 

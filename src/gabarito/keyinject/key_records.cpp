@@ -19,9 +19,9 @@ void AddRecord(MSendInput& m, std::int16_t vk, std::int32_t scan, std::int32_t f
 
 }  // namespace
 
-void BeginRun(MSendInput& m, User32& user32, std::u16string_view text) {
-  m.user32 = &user32;
-  m.keyboardLayout = user32.GetKeyboardLayout(0);
+void BeginRun(MSendInput& m, InputQueue& queue, std::u16string_view text) {
+  m.queue = &queue;
+  m.keyboardLayout = queue.GetKeyboardLayout(0);
   m.keyText = text;
   m.keyPos = 0;
   // An element that raised an error left its modifiers held.
@@ -48,7 +48,7 @@ void AddKeyPress(MSendInput& m, std::int16_t vk, bool withShift, bool extended, 
   // The halves are not alike, and receivers can tell: the flag is on the press alone, the scan code on the
   // release alone.
   AddRecord(m, vk, 0, extended ? kKeyExtended : 0);
-  AddRecord(m, vk, m.user32->MapVirtualKeyExA(vk, 0, m.keyboardLayout), kKeyUp);
+  AddRecord(m, vk, m.queue->MapVirtualKeyExA(vk, 0, m.keyboardLayout), kKeyUp);
   if (withCtrlAlt) {
     AddModifierEvent(m, kVkControl, false);
     AddModifierEvent(m, kVkMenu, false);

@@ -10,7 +10,7 @@
 #include <string_view>
 #include <vector>
 
-#include "gabarito/platform/user32.h"
+#include "gabarito/platform/input_queue.h"
 
 namespace gabarito {
 
@@ -18,7 +18,7 @@ namespace gabarito {
 inline constexpr std::size_t kRecordStep = 511;
 
 struct MSendInput {
-  User32* user32 = nullptr;
+  InputQueue* queue = nullptr;
   std::int32_t keyboardLayout = 0;  // handle, asked for at the start of each run
 
   std::u16string_view keyText;    // the key string in work
@@ -33,7 +33,7 @@ struct MSendInput {
 };
 
 // Makes `m` new for a run over `text`, keeping its storage. The text has to outlive the run.
-void BeginRun(MSendInput& m, User32& user32, std::u16string_view text);
+void BeginRun(MSendInput& m, InputQueue& queue, std::u16string_view text);
 
 // Raises the bound when fewer than 24 records below it are free. To be called between elements only.
 void GrowBetweenElements(MSendInput& m);

@@ -19,7 +19,7 @@ char16_t CharacterAt(const MSendInput& m, std::int32_t position) {
 std::int16_t KeyOf(const MSendInput& m, char16_t c) {
   const std::uint8_t ansi = Asc(c);
   if (ansi == u'?' && c != u'?') return kNoKey;
-  return m.user32->VkKeyScanA(ansi);
+  return m.queue->VkKeyScanA(ansi);
 }
 
 bool WantsShift(std::int16_t key) { return (HighByte(key) & kShiftMask) != 0; }
@@ -117,7 +117,7 @@ void ParsePlainChar(MSendInput& m, char16_t c) {
   const std::int16_t key = c == u'~' ? kVkReturn : KeyOf(m, c);
   if (key == kNoKey) return AddUnicodeChar(m, u);
   // The sender's Caps Lock acts on the keys sent too: with it on, the key of "a" alone would type "A".
-  const bool turnedOver = IsLetter(c) && CapsLockOn(*m.user32);
+  const bool turnedOver = IsLetter(c) && CapsLockOn(*m.queue);
   AddKeyPress(m, LowByte(key), WantsShift(key) != turnedOver, false, WantsCtrlAlt(key));
 }
 
@@ -136,6 +136,6 @@ void SplitText(std::u16string_view texto, std::u16string_view delimitador, std::
   partes.push_back(texto.substr(static_cast<std::size_t>(start) - 1));
 }
 
-bool CapsLockOn(const User32& user32) { return (user32.GetKeyState(kVkCapital) & 1) != 0; }
+bool CapsLockOn(const InputQueue& queue) { return (queue.GetKeyState(kVkCapital) & 1) != 0; }
 
 }  // namespace gabarito

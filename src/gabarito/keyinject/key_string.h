@@ -47,7 +47,7 @@ constexpr std::uint8_t HighByte(std::int16_t v) {
 }
 constexpr std::uint8_t LowByte(std::int16_t v) { return static_cast<std::uint8_t>(v); }
 
-bool CapsLockOn(const User32& user32);
+bool CapsLockOn(const InputQueue& queue);
 
 }  // namespace gabarito
 

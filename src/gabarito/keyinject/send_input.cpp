@@ -26,19 +26,19 @@ bool HasSendInput(const Kernel32& kernel32) {
 
 }  // namespace
 
-void SendKeyString(User32& user32, Kernel32& kernel32, Dialogs& dialogs, std::u16string_view text,
+void SendKeyString(InputQueue& queue, Kernel32& kernel32, Dialogs& dialogs, std::u16string_view text,
                    bool wait) {
   if (!HasSendInput(kernel32)) return dialogs.SendKeys(text, wait);
   if (text.size() > kLongestText) throw Erro(kOverflow);
 
   thread_local MSendInput m;
-  BeginRun(m, user32, text);
+  BeginRun(m, queue, text);
   while (m.keyPos < Len(m.keyText)) {
     ParseNextElement(m);
     GrowBetweenElements(m);
   }
   if (m.inputRecords.empty()) return;
-  user32.SendInput(m.inputRecords, sizeof(INPUT));
+  queue.SendInput(m.inputRecords, sizeof(INPUT));
   if (m.inputRecords.capacity() > kRecordsKept) m.inputRecords = {};
 }
 

@@ -5,12 +5,12 @@
 #include <string_view>
 
 #include "gabarito/platform/dialogs.h"
+#include "gabarito/platform/input_queue.h"
 #include "gabarito/platform/kernel32.h"
-#include "gabarito/platform/user32.h"
 
 namespace gabarito {
 
-// Sends the keys of `text` (the language is told in key_string.h) with one call of User32::SendInput, and
+// Sends the keys of `text` (the language is told in key_string.h) with one call of InputQueue::SendInput, and
 // returns before any of them is delivered: a key that the handler in progress lets through comes first. A
 // text without keys makes no call. On a system without SendInput (platform 1, version below 4.10) the text
 // goes to Dialogs::SendKeys instead; `wait` counts only there.
@@ -19,9 +19,10 @@ namespace gabarito {
 // records than are free: about 500, less what the text before it has used of them. Raises 6 for a count
 // above 32,767. No event is sent then, and the next call starts clean.
 //
-// Any thread; state is kept for each. Not to be called from inside User32's own methods. Linear in the
+// Any thread; state is kept for each. Not to be called from inside InputQueue's own methods. Linear in the
 // length of the text and its counts; after the first call of a thread a short text allocates nothing.
-void SendKeyString(User32& user32, Kernel32& kernel32, Dialogs& dialogs, std::u16string_view text, bool wait);
+void SendKeyString(InputQueue& queue, Kernel32& kernel32, Dialogs& dialogs, std::u16string_view text,
+                   bool wait);
 
 }  // namespace gabarito
 

@@ -14,6 +14,9 @@ namespace gabarito {
 
 using WindowHandle = std::intptr_t;
 
+inline constexpr std::int32_t kCbFindString = 332;    // CB_FINDSTRING
+inline constexpr std::int32_t kCbShowDropDown = 335;  // CB_SHOWDROPDOWN
+
 class ComboBox : public InputChild {
  public:
   using Child::BackColor;
@@ -46,7 +49,12 @@ class ComboBox : public InputChild {
 
   virtual void ToolTipText(std::u16string_view text) = 0;
 
-  // For User32::SendMessageA and the window procedure; never 0.
+  // A message to the list. kCbShowDropDown, wParam 1: opens it; an open one stays open. kCbFindString, wParam
+  // -1: the 0-based position of the first entry that begins with `text`, comparing without regard to case,
+  // from the top of the list; -1 if there is none. Other messages give 0.
+  virtual std::int32_t SendMessageA(std::int32_t message, std::int32_t wParam, std::u16string_view text) = 0;
+
+  // For Painting and WindowHook; never 0.
   virtual WindowHandle hWnd() const = 0;
 };
 

@@ -18,6 +18,7 @@ constexpr Description kDescriptions[] = {
     {kObjectNotSet, u"Variável de objeto não definida"},
     {kInvalidPatternString, u"Sequência de padrão inválida"},
     {kInvalidPropertyValue, u"Valor de propriedade inválido"},
+    {kNotSupported, u"O objeto não suporta esta ação"},
 };
 
 std::u16string DescriptionOf(std::int32_t number) {

@@ -17,6 +17,7 @@ inline constexpr std::int32_t kTypeMismatch = 13;
 inline constexpr std::int32_t kObjectNotSet = 91;
 inline constexpr std::int32_t kInvalidPatternString = 93;
 inline constexpr std::int32_t kInvalidPropertyValue = 380;
+inline constexpr std::int32_t kNotSupported = 445;
 
 // Numbers that an object defines for itself start here.
 inline constexpr std::int32_t kObjectErrorBase = -2147221504;  // 0x80040000

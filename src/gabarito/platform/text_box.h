@@ -4,6 +4,12 @@
 // 1252 code of each character typed (63 for one outside the page; control characters, Enter and Backspace
 // included), before the box acts on it. After KeyPress the box acts on what KeyAscii then holds: 0 nothing,
 // 8 Backspace, 3, 24 and 22 copy, cut and paste, another character from 32 up is inserted.
+//
+// Text that arrives without a key (input method, drag and drop, autofill, dictation, a menu's paste) passes
+// the filter too: for each of its characters a KeyDown with kVkPacket and a KeyPress, with the text and the
+// caret as the characters before it have left them; what passes is inserted as one edit that one undo takes
+// back. A composition in progress is shown by the toolkit and passes when it is committed. Ctrl+V is one
+// KeyPress with 22, as on any keyboard, and then the box's own paste.
 #ifndef GABARITO_PLATFORM_TEXT_BOX_H
 #define GABARITO_PLATFORM_TEXT_BOX_H
 

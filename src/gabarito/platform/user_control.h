@@ -1,6 +1,6 @@
 // The control surface, the host's ambient properties and its property bag.
 //
-// Events of the surface that the host raises on `Gabarito`: Initialize, ReadProperties, WriteProperties,
+// Events of the surface that the host raises on `FieldEvents`: Initialize, ReadProperties, WriteProperties,
 // Show and Terminate in the life of the object; Resize; GotFocus when the surface itself takes the focus;
 // ExitFocus each time the focus passes from the surface or a child to something outside, after the child's
 // own LostFocus and with the focus already gone, and never when it moves between children; AmbientChanged

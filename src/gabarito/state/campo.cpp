@@ -1,6 +1,6 @@
 #include "gabarito/state/campo.h"
 
-#include "gabarito/platform/user32.h"
+#include "gabarito/platform/virtual_keys.h"
 
 namespace gabarito {
 

@@ -18,11 +18,10 @@
 
 namespace gabarito {
 
-// A function of the program that is called on each KeyUp: key code and shift mask (1 Shift, 2 Ctrl, 4 Alt),
-// which it may change.
-using KeyUpHandler = std::function<void(std::int16_t& KeyCode, std::int16_t& Shift)>;
+// The program's handler of KeyUp; see control/gabarito.h.
+using FuncaoKeyUp = std::function<void(std::int16_t& KeyCode, std::int16_t& Shift)>;
 
-// The children and the services come from the host, which outlives the field. Invariants: after the first
+// The children and the services come from the host. Invariants: after the first
 // AplicaAparencia the three active boxes are set and belong to one array; mMaxLength is never negative;
 // mValor is written by UserControl_ExitFocus alone.
 struct Campo : Host {
@@ -44,7 +43,7 @@ struct Campo : Host {
 
   CacheDeArredonda arredonda;
 
-  std::shared_ptr<const KeyUpHandler> aoKeyUp;
+  std::shared_ptr<const FuncaoKeyUp> aoKeyUp;
   // Raises the public event. Both arguments hold afterwards what the program left in them.
   void KeyUp(std::int16_t& KeyCode, std::int16_t& Shift) const {
     // Held while it runs: a handler may put another one in its own place.

@@ -35,19 +35,19 @@ void SemEscapar(Passo passo) noexcept {
   }
 }
 
-void DesenhaBorda(User32& user32, WindowHandle hWnd) {
-  const DeviceContext dc = user32.GetWindowDC(hWnd);
+void DesenhaBorda(WindowHook& hook, WindowHandle hWnd) {
+  const DeviceContext dc = hook.GetWindowDC(hWnd);
   try {
     RECT r;
-    user32.GetClientRect(hWnd, r);
-    user32.DrawEdge(dc, r, kRaisedInner, kFlatRectangle);
-    user32.InflateRect(r, -1, -1);
-    user32.DrawEdge(dc, r, kRaisedInner, kFlatRectangle);
+    hook.GetClientRect(hWnd, r);
+    hook.DrawEdge(dc, r, kRaisedInner, kFlatRectangle);
+    hook.InflateRect(r, -1, -1);
+    hook.DrawEdge(dc, r, kRaisedInner, kFlatRectangle);
   } catch (...) {
-    SemEscapar([&] { user32.ReleaseDC(hWnd, dc); });
+    SemEscapar([&] { hook.ReleaseDC(hWnd, dc); });
     throw;
   }
-  user32.ReleaseDC(hWnd, dc);
+  hook.ReleaseDC(hWnd, dc);
 }
 
 struct Mensagem {
@@ -67,16 +67,16 @@ void ContaNoRastro(const Campo& c, std::int32_t numero, std::u16string_view desc
 
 // What the system calls. Nothing may escape into it, of whatever type: a failure takes the procedure off
 // instead, and is told to the trace of the field, if the window has one.
-std::int32_t ProcedimentoDoModulo(User32& user32, WindowHandle hWnd, std::int32_t uMsg, std::int32_t wParam,
+std::int32_t ProcedimentoDoModulo(WindowHook& hook, WindowHandle hWnd, std::int32_t uMsg, std::int32_t wParam,
                                   std::int32_t lParam) noexcept {
   const Mensagem mensagem{hWnd, uMsg, wParam, lParam};
   Campo* campo = nullptr;
   const auto desiste = [&](std::int32_t numero, std::u16string_view descricao) {
-    SemEscapar([&] { UnhookCombo(user32, hWnd); });
+    SemEscapar([&] { UnhookCombo(hook, hWnd); });
     if (campo != nullptr) SemEscapar([&] { ContaNoRastro(*campo, numero, descricao, mensagem); });
   };
   try {
-    campo = reinterpret_cast<Campo*>(user32.GetPropA(hWnd, kObjectPointer));
+    campo = reinterpret_cast<Campo*>(hook.GetPropA(hWnd, kObjectPointer));
     if (campo == nullptr) throw Erro(kObjectNotSet);
     return ComboWindowProc(*campo, hWnd, uMsg, wParam, lParam);
   } catch (const Erro& erro) {
@@ -92,30 +92,36 @@ std::int32_t ProcedimentoDoModulo(User32& user32, WindowHandle hWnd, std::int32_
 }  // namespace
 
 void HookCombo(Campo& c) {
+  if (c.WindowHook == nullptr) throw Erro(kNotSupported);
   const WindowHandle hWnd = c.Combo1->hWnd();
   const auto procedimento = reinterpret_cast<WindowProc>(static_cast<WindowProcedure>(ProcedimentoDoModulo));
-  const WindowProc atual = c.User32->GetWindowLongA(hWnd, GWL_WNDPROC);
+  const WindowProc atual = c.WindowHook->GetWindowLongA(hWnd, GWL_WNDPROC);
   // Under somebody else's procedure too: hooked once more it would forward to that one, and that one back.
-  if (atual == procedimento || c.User32->GetPropA(hWnd, kHooked) != 0) return;
-  c.User32->SetPropA(hWnd, kOldWindowProc, atual);
-  c.User32->SetPropA(hWnd, kObjectPointer, reinterpret_cast<std::intptr_t>(&c));
-  c.User32->SetWindowLongA(hWnd, GWL_WNDPROC, procedimento);
-  c.User32->SetPropA(hWnd, kHooked, 1);
+  if (atual == procedimento || c.WindowHook->GetPropA(hWnd, kHooked) != 0) return;
+  c.WindowHook->SetPropA(hWnd, kOldWindowProc, atual);
+  c.WindowHook->SetPropA(hWnd, kObjectPointer, reinterpret_cast<std::intptr_t>(&c));
+  c.WindowHook->SetWindowLongA(hWnd, GWL_WNDPROC, procedimento);
+  c.WindowHook->SetPropA(hWnd, kHooked, 1);
 }
 
-void UnhookCombo(User32& user32, WindowHandle hWnd) {
-  const WindowProc anterior = user32.GetPropA(hWnd, kOldWindowProc);
+void UnhookCombo(Campo& c) {
+  if (c.WindowHook == nullptr) throw Erro(kNotSupported);
+  UnhookCombo(*c.WindowHook, c.Combo1->hWnd());
+}
+
+void UnhookCombo(WindowHook& hook, WindowHandle hWnd) {
+  const WindowProc anterior = hook.GetPropA(hWnd, kOldWindowProc);
   if (anterior == 0) return;
-  user32.SetWindowLongA(hWnd, GWL_WNDPROC, anterior);
-  user32.SetPropA(hWnd, kHooked, 0);
+  hook.SetWindowLongA(hWnd, GWL_WNDPROC, anterior);
+  hook.SetPropA(hWnd, kHooked, 0);
 }
 
 std::int32_t ComboWindowProc(Campo& c, WindowHandle hWnd, std::int32_t uMsg, std::int32_t wParam,
                              std::int32_t lParam) {
-  if (uMsg == WM_NCDESTROY) UnhookCombo(*c.User32, c.Combo1->hWnd());
-  const WindowProc anterior = c.User32->GetPropA(hWnd, kOldWindowProc);
-  const std::int32_t resposta = c.User32->CallWindowProcA(anterior, hWnd, uMsg, wParam, lParam);
-  if (hWnd == c.Combo1->hWnd() && uMsg == WM_PAINT) DesenhaBorda(*c.User32, hWnd);
+  if (uMsg == WM_NCDESTROY) UnhookCombo(*c.WindowHook, c.Combo1->hWnd());
+  const WindowProc anterior = c.WindowHook->GetPropA(hWnd, kOldWindowProc);
+  const std::int32_t resposta = c.WindowHook->CallWindowProcA(anterior, hWnd, uMsg, wParam, lParam);
+  if (hWnd == c.Combo1->hWnd() && uMsg == WM_PAINT) DesenhaBorda(*c.WindowHook, hWnd);
   return resposta;
 }
 

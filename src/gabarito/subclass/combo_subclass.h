@@ -15,12 +15,15 @@ inline constexpr std::string_view kObjectPointer = "ObjectPointer";  // the fiel
 inline constexpr std::string_view kHooked = "Hooked";                // 1 from the hook to the unhook, else 0
 
 // Puts the procedure onto the window of Combo1. A window that is hooked already stays as it is, also one that
-// somebody else has hooked over it since. Raises what the window calls of the host raise. What the system
-// calls then lets nothing escape: what is thrown takes the procedure off and is told to the trace.
+// somebody else has hooked over it since. Raises what the window calls of the host raise, and 445 on a host
+// without window procedures. What the system calls then lets nothing escape: what is thrown takes the
+// procedure off and is told to the trace.
 void HookCombo(Campo& c);
 
-// Puts the saved procedure back; a window without one stays as it is.
-void UnhookCombo(User32& user32, WindowHandle hWnd);
+// Puts the saved procedure back; a window without one stays as it is. With a Campo: that of its Combo1, and
+// 445 on a host without window procedures.
+void UnhookCombo(Campo& c);
+void UnhookCombo(WindowHook& hook, WindowHandle hWnd);
 
 // Forwards each message to the saved procedure and returns its answer; WM_PAINT of Combo1 then gets the edge,
 // WM_NCDESTROY, which a host sends to a window that closes, first takes the procedure off. No error handling

@@ -3,166 +3,165 @@
 #include <algorithm>
 #include <utility>
 
-#include "gabarito/platform/erro.h"
+#include "hosts/kit/comfort.h"
+#include "hosts/kit/faults.h"
+#include "hosts/kit/key_protocol.h"
+#include "hosts/kit/own_entry.h"
 #include "hosts/memory/button.h"
-#include "hosts/memory/field.h"
 #include "hosts/memory/plain_box.h"
 
 namespace gabarito::memory {
-namespace {
 
-// The virtual key of a character that comes without a key.
-constexpr std::int16_t kVkPacket = 231;
+// The models are the entries themselves: what a key does, they do at once.
+class Form::OwnModel final : public kit::FormModel {
+ public:
+  OwnModel(Form& form, const kit::Services& itsServices) : FormModel(itsServices), form_(form) {}
 
-}  // namespace
+  void Closing(kit::FieldParts& parts) override { form_.windows_.Close(parts.Combo1.hWnd()); }
 
-Form::Form() : windows_(environment_) {}
-// What has the focus may go before the fields do.
-Form::~Form() { focused_ = nullptr; }
+ private:
+  void Deliver(const kit::KeyEvent& event) override;
+  void ToChild(kit::InputModel& child, std::int16_t vk, const kit::KeyEvent& event);
+
+  Form& form_;
+};
+
+void Form::OwnModel::Deliver(const kit::KeyEvent& event) {
+  if (event.vk == kVkTab && (event.shift & (kCtrlMask | kAltMask)) == 0) {
+    if (event.up || kit::StepBackInside(*this, event)) return;
+    form_.Tab((event.shift & kShiftMask) != 0);
+    return;
+  }
+  kit::Focusable* const receiver = focus.Focused();
+  if (receiver == nullptr || !receiver->CanTakeFocus()) return;
+  const auto held = receiver->Owner().Hold();
+  const std::int16_t vk = event.unicode != 0 ? kVkPacket : event.vk;
+  if (kit::InputModel* const child = receiver->Input()) return ToChild(*child, vk, event);
+  auto* const own = dynamic_cast<OwnControl*>(receiver);
+  if (own == nullptr || event.up) return;
+  own->KeyDown(vk, event.shift);
+  if (const char16_t character = keyboard.CharacterOf(event)) own->Character(character);
+}
+
+void Form::OwnModel::ToChild(kit::InputModel& child, std::int16_t vk, const kit::KeyEvent& event) {
+  std::int16_t code = vk, shift = event.shift;
+  if (event.up) return child.KeyUp(code, shift);
+  child.KeyDown(code, shift);
+  if (!kit::ActOnKeyDown(child, code, shift, form_.clipboard_)) return;
+  const char16_t character = keyboard.CharacterOf(event);
+  // The character goes to the entry that saw the key go down, if that is still on show.
+  if (character == 0 || !child.CanTakeFocus()) return;
+  const char16_t taken = kit::RaiseKeyPress(child, character);
+  if (taken == kit::kPaste && kit::TypeThrough(child, form_.clipboard_)) return;
+  kit::ActOnCharacter(child, taken, form_.clipboard_);
+}
+
+Form::Form() : windows_(*this, [this](WindowHandle window) { return ComboOf(window); }) {
+  kit::Services services = services_.AsServices();
+  services.window_hook = &windows_;
+  model_ = std::make_shared<OwnModel>(*this, services);
+}
+
+// While what has the focus is still there.
+Form::~Form() {
+  for (const Place& place : places_) {
+    if (place.field != nullptr) place.field->End();
+  }
+}
+
+kit::FormModel& Form::Model() { return *model_; }
+
+void Form::MakeFieldsBreakable() {
+  model_->services.decorate = [this](const Host& host) { return kit::WithFaults(host, services_.faults); };
+}
 
 Field& Form::AddField(std::string name) {
-  auto field = std::make_unique<Field>(*this, std::move(name));
-  Field& added = *field;
-  controls_.push_back(std::move(field));
-  return added;
+  places_.push_back({.field = std::make_unique<Field>(model_, std::move(name)), .own = nullptr});
+  return *places_.back().field;
 }
 
 PlainBox& Form::AddBox(std::string name) {
-  auto box = std::make_unique<PlainBox>(environment_, std::move(name));
+  auto box = std::make_unique<PlainBox>(std::move(name), clipboard_);
   PlainBox& added = *box;
-  controls_.push_back(std::move(box));
+  places_.push_back({.field = nullptr, .own = std::move(box)});
   return added;
 }
 
 Button& Form::AddButton(std::string name) {
   auto button = std::make_unique<Button>(std::move(name));
   Button& added = *button;
-  controls_.push_back(std::move(button));
+  places_.push_back({.field = nullptr, .own = std::move(button)});
   return added;
 }
 
-void Form::SetFocus(Focusable& receiver) {
-  if (focused_ == &receiver && receiver.CanTakeFocus()) return;
-  if (!receiver.CanTakeFocus()) throw Erro(kInvalidProcedureCall);
-  const std::uint64_t move = ++moves_;
-  // What has never been told that it has the focus is not told that it loses it: two fields that both refuse
-  // to be left would else throw the focus at each other without end.
-  Focusable* const former = entered_ ? focused_ : nullptr;
-  if (former != nullptr) former->LostFocus();
-  if (move != moves_ || !receiver.CanTakeFocus()) return;
-  focused_ = &receiver;
-  entered_ = false;
-  if (environment_.recorder != nullptr) environment_.recorder->Focus(receiver);
-  if (former != nullptr && &former->Owner() != &receiver.Owner()) former->Owner().ExitFocus();
-  if (move != moves_) return;
-  entered_ = true;
-  receiver.GotFocus();
-}
+kit::Focusable* Form::Focused() { return model_->focus.Focused(); }
+
+void Form::SetFocus(kit::Focusable& receiver) { model_->focus.Move(receiver); }
 
 void Form::Tab(bool backwards) {
-  if (Focusable* const stop = NextStop(backwards)) SetFocus(*stop);
+  if (kit::Focusable* const stop = NextStop(backwards)) SetFocus(*stop);
 }
 
-Focusable* Form::NextStop(bool backwards) {
+void Form::TabStops() {
   stops_.clear();
-  for (const auto& control : controls_) control->TabStops(stops_);
+  for (const Place& place : places_) {
+    if (place.own != nullptr) {
+      place.own->TabStops(stops_);
+    } else if (place.field->Exists()) {
+      place.field->Parts().TabStops(stops_);
+    }
+  }
+}
+
+kit::Focusable* Form::NextStop(bool backwards) {
+  TabStops();
+  kit::Focusable* const focused = Focused();
   const auto count = static_cast<std::ptrdiff_t>(stops_.size());
-  const auto here = std::find(stops_.begin(), stops_.end(), focused_);
+  const auto here = std::find(stops_.begin(), stops_.end(), focused);
   std::ptrdiff_t next;  // where the search begins
   if (here != stops_.end()) {
     next = here - stops_.begin() + (backwards ? -1 : 1);
-  } else if (focused_ == nullptr) {
+  } else if (focused == nullptr) {
     next = backwards ? -1 : 0;
   } else {
     // The surface of a field stands in front of its own children.
-    const auto first = std::find_if(stops_.begin(), stops_.end(),
-                                    [&](Focusable* stop) { return &stop->Owner() == &focused_->Owner(); });
+    const auto first = std::find_if(stops_.begin(), stops_.end(), [&](kit::Focusable* stop) {
+      return &stop->Owner() == &focused->Owner();
+    });
     next = first - stops_.begin() + (backwards ? -1 : 0);
   }
   for (std::ptrdiff_t tried = 0; tried < count; ++tried, next += backwards ? -1 : 1) {
-    Focusable* const stop = stops_[static_cast<std::size_t>((next + count) % count)];
+    kit::Focusable* const stop = stops_[static_cast<std::size_t>((next + count) % count)];
     if (stop->CanTakeFocus()) return stop;
   }
   return nullptr;
 }
 
-void Form::Settle() {
-  if (!unsettled_) return;
-  unsettled_ = false;
-  if (focused_ == nullptr || focused_->CanTakeFocus()) return;
-  Focusable* const surface = focused_->Owner().Surface();
-  if (surface != nullptr && surface->CanTakeFocus()) SetFocus(*surface);
+kit::ComboModel* Form::ComboOf(WindowHandle window) const {
+  for (const Place& place : places_) {
+    if (place.field == nullptr || !place.field->Exists()) continue;
+    kit::ComboModel& combo = place.field->Parts().Combo1;
+    if (combo.hWnd() == window) return &combo;
+  }
+  return nullptr;
 }
 
-void Form::Forget(Control& control) {
-  if (focused_ == nullptr || &focused_->Owner() != &control) return;
-  ++moves_;
-  focused_ = nullptr;
-}
-
-void Form::Run() {
-  if (running_) return;
-  running_ = true;
-  try {
-    while (environment_.keyboard.Pending()) {
-      Deliver(environment_.keyboard.Next());
-      Settle();
-    }
-  } catch (...) {
-    running_ = false;
-    throw;
-  }
-  running_ = false;
-}
-
-void Form::Deliver(const KeyEvent& event) {
-  if (event.vk == kVkTab && (event.shift & (kCtrlMask | kAltMask)) == 0) {
-    if (!event.up) Tab((event.shift & kShiftMask) != 0);
-    return;
-  }
-  Focusable* const receiver = focused_;
-  if (receiver == nullptr || !receiver->CanTakeFocus()) return;
-  const std::int16_t vk = event.unicode != 0 ? kVkPacket : event.vk;
-  if (event.up) {
-    receiver->KeyUp(vk, event.shift);
-    return;
-  }
-  if (!receiver->KeyDown(vk, event.shift)) return;
-  const Keyboard& keyboard = environment_.keyboard;
-  const char16_t character = event.unicode != 0
-                                 ? event.unicode
-                                 : keyboard.Layout().CharacterOf(vk, event.shift, keyboard.CapsLock());
-  // The character goes to the entry that saw the key go down, if that is still on show.
-  if (character != 0 && receiver->CanTakeFocus()) receiver->Character(character);
-}
+void Form::Run() { model_->Run(); }
 
 void Form::Press(std::int16_t vk, std::int16_t shift) {
-  environment_.keyboard.Press(vk, shift);
+  model_->keyboard.Press(vk, shift);
   Run();
 }
 
 void Form::Type(std::u16string_view text) {
-  Keyboard& keyboard = environment_.keyboard;
-  for (char16_t character : text) {
-    if (character == u'\n') character = u'\r';
-    auto stroke = keyboard.Layout().StrokeFor(character);
-    if (!stroke) {
-      const INPUT events[] = {{.type = kInputKeyboard, .wScan = character, .dwFlags = kKeyUnicode},
-                              {.type = kInputKeyboard, .wScan = character, .dwFlags = kKeyUnicode | kKeyUp}};
-      keyboard.Send(events);
-      Run();
-      continue;
-    }
-    // A person who sees the wrong case come up holds Shift the other way round.
-    if (keyboard.Layout().CharacterOf(stroke->vk, stroke->shift, keyboard.CapsLock()) != character) {
-      stroke->shift ^= kShiftMask;
-    }
-    Press(stroke->vk, stroke->shift);
+  for (const char16_t character : text) {
+    model_->keyboard.PressCharacter(character);
+    Run();
   }
 }
 
 void Form::Paste(std::u16string_view text) {
-  environment_.clipboard = text;
+  clipboard_ = text;
   Press('V', kCtrlMask);
 }
 

@@ -2,33 +2,26 @@
 #ifndef HOSTS_MEMORY_PLAIN_BOX_H
 #define HOSTS_MEMORY_PLAIN_BOX_H
 
-#include <string>
-
-#include "hosts/memory/edit_line.h"
-#include "hosts/memory/environment.h"
-#include "hosts/memory/focusable.h"
+#include "hosts/kit/text_line.h"
+#include "hosts/memory/own_control.h"
 
 namespace gabarito::memory {
 
-class PlainBox final : public Control, public Focusable {
+class PlainBox final : public OwnControl {
  public:
-  PlainBox(Environment& environment, std::string name);
+  PlainBox(std::string name, std::u16string& clipboard)
+      : OwnControl(std::move(name)), clipboard_(clipboard) {}
 
-  EditLine& Line() { return line_; }
+  kit::TextLine& Line() { return line_; }
 
-  std::string_view Name() const override { return name_; }
-  Control& Owner() override { return *this; }
-  bool CanTakeFocus() const override { return true; }
+  // Selects the whole text.
   void GotFocus() override;
-  bool KeyDown(std::int16_t vk, std::int16_t shift) override;
+  void KeyDown(std::int16_t vk, std::int16_t shift) override;
   void Character(char16_t character) override;
 
-  void TabStops(std::vector<Focusable*>& stops) override { stops.push_back(this); }
-
  private:
-  Environment& environment_;
-  std::string name_;
-  EditLine line_;
+  std::u16string& clipboard_;
+  kit::TextLine line_;
   std::int32_t anchor_ = 0;
 };
 

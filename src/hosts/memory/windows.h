@@ -1,40 +1,31 @@
-// The system calls about windows, keyboard and drawing, over the combo boxes of a form.
+// Window procedures and drawing, over the combo boxes of a form.
 #ifndef HOSTS_MEMORY_WINDOWS_H
 #define HOSTS_MEMORY_WINDOWS_H
 
+#include <functional>
 #include <map>
 #include <string>
-#include <vector>
 
-#include "gabarito/platform/user32.h"
+#include "gabarito/platform/window_hook.h"
+#include "hosts/kit/combo_model.h"
 
 namespace gabarito::memory {
 
-class ComboWidget;
-struct Environment;
+class Form;
 
-// Handles are small numbers, never used twice. A call with a handle that is none, or of a combo box that is
-// gone, does nothing and gives 0 (-1 for a search).
-class Windows final : public User32 {
+// A call with a handle that is none, or of a combo box that is gone, does nothing and gives 0.
+class Windows final : public WindowHook {
  public:
-  explicit Windows(Environment& environment) : environment_(environment) {}
+  using FindCombo = std::function<kit::ComboModel*(WindowHandle)>;
+  Windows(Form& form, FindCombo findCombo) : form_(form), find_combo_(std::move(findCombo)) {}
 
-  // Gives a combo box its window; with null a window without content.
-  WindowHandle Open(ComboWidget* combo);
-  // Sends WM_NCDESTROY first, so whoever has hooked the window is still there.
+  // A window without content.
+  WindowHandle Open();
+  // The window is about to go: one that somebody has hooked is told (WM_NCDESTROY).
   void Close(WindowHandle window);
 
   // The system sends a message: the window's present procedure gets it.
   std::int32_t Send(WindowHandle window, std::int32_t message, std::int32_t wParam, std::int32_t lParam);
-
-  std::int32_t SendMessageA(WindowHandle window, std::int32_t message, std::int32_t wParam,
-                            std::u16string_view text) override;
-  void LockWindowUpdate(WindowHandle window) override;
-  std::int32_t SendInput(std::span<const INPUT> events, std::int32_t size) override;
-  std::int16_t VkKeyScanA(std::uint8_t character) const override;
-  std::int32_t GetKeyboardLayout(std::int32_t thread) const override;
-  std::int32_t MapVirtualKeyExA(std::int32_t key, std::int32_t mapType, std::int32_t layout) const override;
-  std::int16_t GetKeyState(std::int32_t key) const override;
 
   std::intptr_t GetPropA(WindowHandle window, std::string_view name) const override;
   void SetPropA(WindowHandle window, std::string_view name, std::intptr_t value) override;
@@ -54,18 +45,16 @@ class Windows final : public User32 {
 
  private:
   struct Window {
-    bool open = true;
-    ComboWidget* combo = nullptr;
-    WindowProc procedure = 0;
+    WindowProc procedure;
     std::map<std::string, std::intptr_t, std::less<>> properties;
   };
 
-  Window* Find(WindowHandle window);
-  const Window* Find(WindowHandle window) const { return const_cast<Windows*>(this)->Find(window); }
+  // Null for a handle that is none. The window of a combo box gets its entry when it is first asked for.
+  Window* Find(WindowHandle window) const;
 
-  Environment& environment_;
-  std::vector<Window> windows_;
-  WindowHandle locked_ = 0;
+  Form& form_;
+  FindCombo find_combo_;
+  mutable std::map<WindowHandle, Window> windows_;
   int contexts_ = 0;
 };
 

@@ -18,7 +18,7 @@ struct Columns {
   int Width() const { return end - first; }
 };
 
-Columns ColumnsOf(const memory::Geometry& bounds, int surface) {
+Columns ColumnsOf(const kit::Geometry& bounds, int surface) {
   const int last = surface + kFieldWidth;
   return {std::clamp(surface + Cells(bounds.left), surface, last),
           std::clamp(surface + Cells(bounds.left + bounds.width), surface, last)};
@@ -83,7 +83,7 @@ void DrawEntry(Screen& screen, Point at, memory::Form& form, Widget& widget, Edg
 }
 
 // The arrow at the end of a combo box opens and closes its list.
-void DrawCombo(Screen& screen, Point at, memory::Form& form, memory::ComboWidget& combo) {
+void DrawCombo(Screen& screen, Point at, memory::Form& form, kit::ComboModel& combo) {
   DrawEntry(screen, at, form, combo, Edge::kArrow);
   const Columns columns = ColumnsOf(combo.Bounds(), at.x);
   if (!combo.IsVisible() || columns.Width() < 2) return;
@@ -95,7 +95,7 @@ void DrawCombo(Screen& screen, Point at, memory::Form& form, memory::ComboWidget
 }
 
 // A caption narrower than its label is centred, as the hyphen of a postal code.
-void DrawSeparator(Grid& grid, Point at, const memory::LabelWidget& label) {
+void DrawSeparator(Grid& grid, Point at, const kit::LabelModel& label) {
   const Columns columns = ColumnsOf(label.Bounds(), at.x);
   if (!label.IsVisible() || columns.Width() < 1) return;
   grid.Fill(columns.first, at.y, columns.Width(), {label.Color()});
@@ -105,7 +105,7 @@ void DrawSeparator(Grid& grid, Point at, const memory::LabelWidget& label) {
   grid.Put(columns.first + gap / 2, at.y, caption, {label.Color()});
 }
 
-void DrawEntryOfList(Screen& screen, Point at, int width, memory::ComboWidget& combo, int entry) {
+void DrawEntryOfList(Screen& screen, Point at, int width, kit::ComboModel& combo, int entry) {
   Style style{combo.Color(), kPlain};
   if (entry == combo.Selected()) style.marks |= kSelected;
   screen.grid.Fill(at.x, at.y, width, style);
@@ -117,18 +117,18 @@ void DrawEntryOfList(Screen& screen, Point at, int width, memory::ComboWidget& c
 
 }  // namespace
 
-void DrawField(Screen& screen, Point at, memory::Form& form, memory::FieldParts& parts) {
+void DrawField(Screen& screen, Point at, memory::Form& form, kit::FieldParts& parts) {
   screen.grid.Fill(at.x, at.y, std::min(kFieldWidth, Cells(parts.surface.Bounds().width)),
                    {parts.surface.Color()});
-  for (const memory::LabelWidget& label : parts.lbl_controle) DrawSeparator(screen.grid, at, label);
-  for (memory::TextBoxWidget& box : parts.txt_entrada) DrawEntry(screen, at, form, box, Edge::kFlat);
-  for (memory::TextBoxWidget& box : parts.txt_entrada3D) DrawEntry(screen, at, form, box, Edge::k3D);
-  memory::MaskedWidget& masked = parts.MaskEdBox1;
+  for (const kit::LabelModel& label : parts.lbl_controle) DrawSeparator(screen.grid, at, label);
+  for (kit::TextBoxModel& box : parts.txt_entrada) DrawEntry(screen, at, form, box, Edge::kFlat);
+  for (kit::TextBoxModel& box : parts.txt_entrada3D) DrawEntry(screen, at, form, box, Edge::k3D);
+  kit::MaskedModel& masked = parts.MaskEdBox1;
   DrawEntry(screen, at, form, masked, masked.ShownAppearance() == 1 ? Edge::k3D : Edge::kFlat);
   DrawCombo(screen, at, form, parts.Combo1);
 }
 
-void DrawList(Screen& screen, Point at, Rows rows, memory::ComboWidget& combo) {
+void DrawList(Screen& screen, Point at, Rows rows, kit::ComboModel& combo) {
   const int count = static_cast<int>(combo.Entries().Count());
   const int below = rows.end - at.y - 1, above = at.y - rows.first;
   int shown = std::min(count, FormView::kListLines);

@@ -11,11 +11,11 @@ constexpr float kCharacter = 30;
 }  // namespace
 
 FormModel::FormModel(std::vector<FieldSpec> fields, std::function<Date()> now) : now_(std::move(now)) {
-  form_.System().metric = {.wide = kCharacter, .narrow = kCharacter};
+  form_.System().metric.wide = form_.System().metric.narrow = kCharacter;
   TakeTime();
   for (FieldSpec& spec : fields) {
     memory::Field& field = form_.AddField(spec.name);
-    form_.System().voice = &dialogs_.emplace_back(listener_, lines_.size());
+    field.Voice(&dialogs_.emplace_back(listener_, lines_.size()));
     SetUp(field, spec);
     lines_.push_back({std::move(spec), &field});
   }
@@ -25,24 +25,22 @@ FormModel::FormModel(std::vector<FieldSpec> fields, std::function<Date()> now) :
 void FormModel::SetUp(memory::Field& field, const FieldSpec& spec) {
   field.Create();
   // The labels have the ambient colour from the start, the surface only after it has been told of a change.
-  field->UserControl_AmbientChanged(u"BackColor");
+  field.Events().UserControl_AmbientChanged(u"BackColor");
   field.Parts().surface.Size(kFieldWidth * kCell, field.Parts().Combo1.LineHeight());
   // As a field that comes out of a stored form has it.
   field->TrataEnterComoTab(true);
   spec.set_up(*field);
 }
 
-std::size_t FormModel::FocusedLine() const {
-  memory::Focusable* const focused = form_.Focused();
+std::size_t FormModel::FocusedLine() {
+  kit::Focusable* const focused = form_.Focused();
   const auto line = std::ranges::find_if(lines_, [&](const Line& candidate) {
-    return focused != nullptr && &focused->Owner() == candidate.field;
+    return focused != nullptr && candidate.field->Exists() && &focused->Owner() == &candidate.field->Parts();
   });
   return static_cast<std::size_t>(line - lines_.begin());
 }
 
-memory::ComboWidget* FormModel::FocusedCombo() const {
-  return dynamic_cast<memory::ComboWidget*>(form_.Focused());
-}
+kit::ComboModel* FormModel::FocusedCombo() { return dynamic_cast<kit::ComboModel*>(form_.Focused()); }
 
 std::vector<std::pair<std::string, std::u16string>> FormModel::Values() {
   Listen(nullptr);

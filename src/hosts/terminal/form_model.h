@@ -8,8 +8,8 @@
 #include <utility>
 #include <vector>
 
+#include "hosts/kit/field_model.h"
 #include "hosts/memory/button.h"
-#include "hosts/memory/field.h"
 #include "hosts/memory/form.h"
 #include "hosts/terminal/field_dialogs.h"
 
@@ -44,9 +44,9 @@ class FormModel {
   memory::Button& Leave() { return *leave_; }
 
   // The line of the control with the focus; Lines().size() for the button, and when nothing has it.
-  std::size_t FocusedLine() const;
+  std::size_t FocusedLine();
   // The combo box with the focus, or null.
-  memory::ComboWidget* FocusedCombo() const;
+  kit::ComboModel* FocusedCombo();
 
   // Hears the fields from now on; null for nobody.
   void Listen(Listener* listener) { listener_ = listener; }

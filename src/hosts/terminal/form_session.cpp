@@ -3,7 +3,7 @@
 #include <ranges>
 
 #include "gabarito/platform/erro.h"
-#include "gabarito/platform/user32.h"
+#include "gabarito/platform/virtual_keys.h"
 #include "hosts/terminal/message_box.h"
 
 namespace gabarito::terminal {
@@ -77,7 +77,7 @@ void FormSession::Click(Point at) {
   // What lies under the pointer is what was shown last; nothing has changed since.
   if (ClickTarget(view_.Draw(display_.Width(), display_.Height()), at)) return;
   // A click beside an open list closes it.
-  if (memory::ComboWidget* combo = model_.FocusedCombo()) combo->DropDown(false);
+  if (kit::ComboModel* combo = model_.FocusedCombo()) combo->DropDown(false);
 }
 
 // The focus passes to Sair, so that the field that is left is judged as ever. Whoever saw a message stays, to

@@ -27,7 +27,7 @@ int LabelWidth(const FormModel& model, int width) {
   return std::min(wanted, std::max(width - kBefore - kBehind - kFieldWidth, kShortestLabel));
 }
 
-void DrawHelp(Grid& grid, const memory::ComboWidget* combo) {
+void DrawHelp(Grid& grid, const kit::ComboModel* combo) {
   const Style tip{kButtonFace};
   if (combo != nullptr) {
     grid.Put(kBefore, grid.Height() - 2, Shortened(ToCells(combo->ToolTip()), grid.Width() - kBefore), tip);
@@ -83,7 +83,7 @@ Screen FormView::Draw(int width, int height) {
   if (top_ + visible <= button) grid.Put(1, rows.end - 1, U'▼', {});
 
   // Last, over the lines that it covers.
-  memory::ComboWidget* const combo = model_.FocusedCombo();
+  kit::ComboModel* const combo = model_.FocusedCombo();
   if (combo != nullptr && combo->DroppedDown()) {
     DrawList(screen, {surface, rows.first + focused - top_}, rows, *combo);
   }

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "hosts/memory/utf8.h"
+#include "hosts/kit/utf8.h"
 
 namespace gabarito::terminal {
 
@@ -36,7 +36,7 @@ std::string Grid::Row(int y) const {
     }
   }
   row.erase(row.find_last_not_of(u' ') + 1);
-  return memory::ToUtf8(row);
+  return kit::ToUtf8(row);
 }
 
 std::u32string ToCells(std::u16string_view text) {

@@ -6,7 +6,7 @@
 
 #include <algorithm>
 
-#include "gabarito/platform/user32.h"
+#include "gabarito/platform/virtual_keys.h"
 
 namespace gabarito::terminal {
 namespace {

@@ -1,8 +1,7 @@
 // A program outside of the project: one field on a form, and its value.
 #include <gabarito/gabarito.h>
-#include <hosts/memory/field.h>
+#include <hosts/kit/utf8.h>
 #include <hosts/memory/form.h>
-#include <hosts/memory/utf8.h>
 
 #include <iostream>
 
@@ -13,5 +12,5 @@ int main() {
   cpf->Mask(gabarito::gbCPF);
   form.SetFocus(*cpf.Surface());
   form.Type(u"11144477735");
-  std::cout << gabarito::memory::ToUtf8(cpf->Text()) << '\n';
+  std::cout << gabarito::kit::ToUtf8(cpf->Text()) << '\n';
 }

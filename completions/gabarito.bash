@@ -25,6 +25,10 @@ _gabarito() {
     -t | --text | -k | --keys)
       return
       ;;
+    --format)
+      mapfile -t COMPREPLY < <(compgen -W 'json env tsv' -- "$word")
+      return
+      ;;
     --fields)
       mapfile -t COMPREPLY < <(compgen -f -- "$word")
       compopt -o filenames
@@ -37,7 +41,7 @@ _gabarito() {
     masks) words='--json --help' ;;
     field) words='--mask --set --text --keys --help' ;;
     batch) words='--mask --set --help' ;;
-    form) words='--fields --help' ;;
+    form) words='--fields --format --print0 --nulls --help' ;;
   esac
   if [[ $word != -* && ($command == batch || $command == script) ]]; then
     mapfile -t COMPREPLY < <(compgen -f -- "$word")

@@ -8,6 +8,7 @@
 #include <fstream>
 #include <functional>
 #include <iostream>
+#include <map>
 #include <memory>
 #include <string>
 #include <system_error>
@@ -132,11 +133,34 @@ void AddScript(CLI::App& program, Action& action) {
 
 void AddForm(CLI::App& program, Action& action) {
   CLI::App& command = *program.add_subcommand("form", "Fill in a form in the terminal");
-  auto file = std::make_shared<std::string>();
-  command.add_option("--fields", *file, "List of fields as JSON; a field of every kind without it")
+  auto options = std::make_shared<FormOptions>();
+  command
+      .add_option("--fields", options->fields_file,
+                  "List of fields as JSON; a field of every kind without it")
       ->type_name("FILE");
+  const std::map<std::string, FormFormat> formats{
+      {"json", FormFormat::kJson}, {"env", FormFormat::kEnv}, {"tsv", FormFormat::kTsv}};
+  CLI::Option* const format =
+      command
+          .add_option_function<std::string>(
+              "--format",
+              [options, formats](const std::string& name) { options->output.format = formats.at(name); },
+              "json (the default), env (name='value' for a shell) or tsv (name, TAB, value)")
+          ->check(CLI::IsMember(formats))
+          ->type_name("FORMAT");
+  CLI::Option* const nulls =
+      command.add_flag("--nulls", options->output.nulls, "In JSON an empty field is null instead of \"\"");
+  auto print0 = [options](std::int64_t) { options->output.format = FormFormat::kPrint0; };
+  command.add_flag_function("--print0", print0, "The values alone, each ended by NUL")
+      ->excludes(format)
+      ->excludes(nulls);
   command.footer(kFormHelp);
-  command.callback([file, &action] { action = [file] { return RunForm(*file); }; });
+  command.callback([options, &action] {
+    if (options->output.nulls && options->output.format != FormFormat::kJson) {
+      throw UsageError("form: --nulls goes with --format json alone");
+    }
+    action = [options] { return RunForm(*options); };
+  });
 }
 
 int Run(int argc, char** argv) {

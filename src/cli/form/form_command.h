@@ -4,17 +4,26 @@
 
 #include <string>
 
+#include "cli/form/form_output.h"
+
 namespace gabarito::cli {
 
 // What the program's help says about the command.
 extern const char* const kFormHelp;
 
-// Runs the form on the terminal until the person leaves, and writes the values as one JSON object on standard
-// output. `fieldsFile` is a list of fields (field_list.h); without one there is a field of every kind.
+// The status of a form that the person has given up.
+inline constexpr int kGivenUp = 130;
+
+struct FormOptions {
+  std::string fields_file;  // a list of fields (form_list.h); empty: a field of every kind
+  FormOutput output;
+};
+
+// Runs the form on the terminal until the person leaves, and writes the values on standard output.
 //
-// 0, or 128 and the number of the signal that ended it, with nothing written. UsageError on a bad list of
-// fields or without a terminal.
-int RunForm(const std::string& fieldsFile);
+// 0, kGivenUp, or 128 and the number of the signal that ended it, with nothing written in the last two cases.
+// UsageError on a bad list of fields or without a terminal.
+int RunForm(const FormOptions& options);
 
 }  // namespace gabarito::cli
 

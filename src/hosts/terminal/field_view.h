@@ -2,23 +2,32 @@
 #ifndef HOSTS_TERMINAL_FIELD_VIEW_H
 #define HOSTS_TERMINAL_FIELD_VIEW_H
 
-#include "hosts/terminal/form_view.h"
+#include <string>
+#include <vector>
+
+#include "hosts/memory/form.h"
+#include "hosts/terminal/entries.h"
+#include "hosts/terminal/screen.h"
 
 namespace gabarito::terminal {
 
-// The surface begins at `at`. Boxes of the 3D look stand between two upright lines, flat ones on a line below
-// them; each shows the part of its text around the caret. The child with the focus gives the screen its
-// caret.
-void DrawField(Screen& screen, Point at, memory::Form& form, kit::FieldParts& parts);
-
-// Rows [first, end) of a screen.
-struct Rows {
-  int first, end;
+// A piece and the cells that it takes: of an entry its inside, between two edges; of a caption the text
+// without blanks around it.
+struct PlacedPiece {
+  Piece piece;
+  int x;      // of the first cell
+  int width;  // cells
 };
 
-// The list of `combo`, which belongs to a field at `at`: below it or, if that gives less room, above it,
-// within `rows`, scrolled so that the selected entry is on show.
-void DrawList(Screen& screen, Point at, Rows rows, kit::ComboModel& combo);
+// The pieces side by side in at most `width` cells, the left edge of the first entry in the first: boxes of
+// few characters as wide as those, a blank on both sides of a caption, the rest of the room for whatever has
+// no natural width. Only a width that has no cell for each entry is overstepped.
+std::vector<PlacedPiece> Arrange(const std::vector<Piece>& pieces, int width);
+
+// In `width` cells from `at` on. Each box shows the part of its text around the caret, and in place of an
+// empty text its placeholder; the entry with the focus gives the screen its caret.
+void DrawField(Screen& screen, Point at, int width, memory::Form& form, kit::FieldParts& parts,
+               const std::vector<std::u16string>& placeholders);
 
 }  // namespace gabarito::terminal
 

@@ -1,17 +1,17 @@
-// The form itself: labelled fields and the button Sair on the in-memory host.
+// The form itself: labelled fields and the button that finishes, on the in-memory host.
 #ifndef HOSTS_TERMINAL_FORM_MODEL_H
 #define HOSTS_TERMINAL_FORM_MODEL_H
 
 #include <deque>
 #include <functional>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "hosts/kit/field_model.h"
 #include "hosts/memory/button.h"
 #include "hosts/memory/form.h"
 #include "hosts/terminal/field_dialogs.h"
+#include "hosts/terminal/form_spec.h"
 
 namespace gabarito::terminal {
 
@@ -19,29 +19,25 @@ namespace gabarito::terminal {
 inline constexpr int kCell = 100;
 // Cells of a field's surface. It never follows the window: a new width would run the layouts, and they empty
 // the boxes of a date.
-inline constexpr int kFieldWidth = 38;
-
-struct FieldSpec {
-  std::string name;  // the key of its value; UTF-8
-  std::u16string label;
-  // Gives a new field its properties, its kind and its value, in this order.
-  std::function<void(gabarito::Gabarito&)> set_up;
-};
+inline constexpr int kFieldWidth = 40;
 
 class FormModel {
  public:
   // What a `set_up` throws passes. `now` is asked for the time at each step of the person.
-  FormModel(std::vector<FieldSpec> fields, std::function<Date()> now);
+  FormModel(FormSpec spec, std::function<Date()> now);
   FormModel(const FormModel&) = delete;
   FormModel& operator=(const FormModel&) = delete;
 
   struct Line {
     FieldSpec spec;
     memory::Field* field;
+    bool lost = false;  // the field has taken nothing of the value to start from
   };
+  // Title and button; the fields are in Lines.
+  const FormSpec& Spec() const { return spec_; }
   const std::vector<Line>& Lines() const { return lines_; }
   memory::Form& Form() { return form_; }
-  memory::Button& Leave() { return *leave_; }
+  memory::Button& Finish() { return *finish_; }
 
   // The line of the control with the focus; Lines().size() for the button, and when nothing has it.
   std::size_t FocusedLine();
@@ -54,20 +50,20 @@ class FormModel {
   // Sets the clock of the form to the present.
   void TakeTime() { form_.System().clock.Set(now_()); }
 
-  // The value of each field by its name, in order. Each `Text` is read once, with message boxes answered
-  // unseen by their default button: what a field refuses gives what its last exit left. Ends the form: the
-  // fields are disabled, so that no refusal moves the focus.
-  std::vector<std::pair<std::string, std::u16string>> Values();
+  // Reads the value, which judges the field as leaving it does.
+  FieldValue Read(std::size_t line);
 
  private:
-  void SetUp(memory::Field& field, const FieldSpec& spec);
+  // Whether the field has taken something of its value.
+  bool SetUp(memory::Field& field, const FieldSpec& spec);
 
+  FormSpec spec_;
   std::function<Date()> now_;
   Listener* listener_ = nullptr;
   std::deque<FieldDialogs> dialogs_;  // one a line; they outlive the fields and never move
   memory::Form form_;
   std::vector<Line> lines_;
-  memory::Button* leave_;
+  memory::Button* finish_;
 };
 
 }  // namespace gabarito::terminal

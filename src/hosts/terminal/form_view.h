@@ -1,45 +1,62 @@
-// Draws the form from the children of its fields, and knows what lies under a click.
+// Draws the form: title and progress, the fields with what they have said, help and the keys that work now.
 #ifndef HOSTS_TERMINAL_FORM_VIEW_H
 #define HOSTS_TERMINAL_FORM_VIEW_H
 
 #include <functional>
+#include <string>
 #include <vector>
 
 #include "hosts/terminal/form_model.h"
-#include "hosts/terminal/grid.h"
+#include "hosts/terminal/list_view.h"
+#include "hosts/terminal/notices.h"
+#include "hosts/terminal/screen.h"
 
 namespace gabarito::terminal {
 
-// Cells that answer a click.
-struct Target {
-  int x, y, width;
-  std::function<void(int column)> click;  // with the column inside the target
-
-  bool Holds(Point point) const { return point.y == y && point.x >= x && point.x < x + width; }
-};
-
-struct Screen {
-  Grid grid;
-  std::vector<Target> targets;  // of two in one place the later one counts
-};
-
 class FormView {
  public:
-  // Smaller windows show a notice instead of the form.
-  static constexpr int kLeastWidth = 36;
-  static constexpr int kLeastHeight = 8;
-  static constexpr int kListLines = 8;  // entries that an open list shows
+  // Smaller windows show a notice instead of the form; from 40 by 10 on nothing is cut off.
+  static constexpr int kLeastWidth = 24;
+  static constexpr int kLeastHeight = 6;
 
-  // `leave` is called for a click on Sair.
-  FormView(FormModel& model, std::function<void()> leave) : model_(model), leave_(std::move(leave)) {}
+  // `finish` is called for a click on the button. All outlive the view.
+  FormView(FormModel& model, const Notices& notices, std::function<void()> finish)
+      : model_(model), notices_(notices), finish_(std::move(finish)) {}
 
-  // The form in a window of this size, scrolled so that the line with the focus is on show.
+  // The form in a window of this size, scrolled so that what has the focus is on show.
   Screen Draw(int width, int height);
 
+  // Turns the open list or, without one, the form until the focus moves; down for more than 0.
+  void Wheel(int rows);
+
  private:
+  // One row of the form, from its top to its button.
+  struct Row {
+    enum class Kind { kBlank, kHeading, kLabel, kField, kNotice, kFinish };
+    Kind kind;
+    std::size_t line;  // the field; Lines().size() for the button
+    std::u32string text;
+  };
+  // Where the parts of a row stand. A narrow window has the labels above their fields.
+  struct Columns {
+    bool stacked;
+    int label, boxes;  // first columns
+    int label_width, width;
+  };
+
+  Columns ColumnsFor(int width) const;
+  std::vector<Row> RowsFor(const Columns& columns) const;
+  void Scroll(const std::vector<Row>& rows, int visible);
+  void DrawFrame(Screen& screen);
+  void DrawRow(Screen& screen, int y, const Row& row, const Columns& columns);
+
   FormModel& model_;
-  std::function<void()> leave_;
-  int top_ = 0;  // the first line of the form that is on show
+  const Notices& notices_;
+  std::function<void()> finish_;
+  ListView list_;
+  int top_ = 0;  // the first row of the form that is on show
+  // What the form was scrolled for: the line with the focus, the rows of the form and of the window.
+  std::vector<std::size_t> scrolled_for_;
 };
 
 }  // namespace gabarito::terminal

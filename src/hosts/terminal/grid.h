@@ -19,7 +19,9 @@ inline constexpr Marks kEntry = 1;     // a place to type in
 inline constexpr Marks kFlatEdge = 2;  // of an entry in the flat look
 inline constexpr Marks kActive = 4;    // of the entry or button that has the focus
 inline constexpr Marks kSelected = 8;
-inline constexpr Marks kStrong = 16;  // title and frames
+inline constexpr Marks kStrong = 16;  // title, headings and frames
+inline constexpr Marks kDim = 32;     // what stands where nothing has been typed
+inline constexpr Marks kAlarm = 64;   // what the person has to look at
 
 struct Style {
   Color back = kButtonFace;

@@ -11,7 +11,10 @@ namespace {
 constexpr std::int32_t kYesNo = 4, kSecondButton = 256;
 constexpr int kMargin = 2;  // between frame and text
 constexpr int kWidest = 56;
-constexpr std::int16_t kVkLeft = 37, kVkUp = 38, kVkRight = 39, kVkDown = 40;
+constexpr int kAround = 3;  // rows that are not text: frame and buttons
+constexpr int kPage = 5;
+constexpr std::int16_t kVkPageUp = 33, kVkPageDown = 34, kVkLeft = 37, kVkUp = 38, kVkRight = 39,
+                       kVkDown = 40;
 
 }  // namespace
 
@@ -20,8 +23,8 @@ std::int32_t DefaultButton(std::int32_t flags) {
   return (flags & kSecondButton) != 0 ? kAnswerNo : kAnswerYes;
 }
 
-MessageBox::MessageBox(std::u16string_view text, std::int32_t flags, std::optional<std::u16string_view> title)
-    : title_(ToCells(title.value_or(u"Gabarito"))), text_(ToCells(text)) {
+MessageBox::MessageBox(std::u32string_view text, std::int32_t flags, std::u32string_view title)
+    : title_(title), text_(text) {
   // The buttons in the order of the platform, so that Escape is the last one.
   if ((flags & kYesNo) != 0) {
     buttons_ = {{U"[ Sim ]", kAnswerYes}, {U"[ Não ]", kAnswerNo}};
@@ -39,11 +42,17 @@ void MessageBox::Press(std::int16_t vk) {
     case kVkEscape:
       answer_ = buttons_.back().answer;
       break;
+    case kVkPageUp:
+    case kVkPageDown:
+      Turn(vk == kVkPageUp ? -kPage : kPage);
+      break;
+    case kVkUp:
+    case kVkDown:
+      if (!IsQuestion()) return Turn(vk == kVkUp ? -1 : 1);
+      [[fallthrough]];
     case kVkTab:
     case kVkLeft:
-    case kVkUp:
     case kVkRight:
-    case kVkDown:
       chosen_ = (chosen_ + 1) % buttons_.size();  // with two buttons both ways are one
       break;
     default:
@@ -64,15 +73,19 @@ void MessageBox::Draw(Screen& screen) {
   Grid& grid = screen.grid;
   const int widest = std::min(kWidest, grid.Width() - 2 * kMargin - 2);
   const std::vector<std::u32string> lines = Wrapped(text_, widest);
+  const int count = static_cast<int>(lines.size());
   std::size_t inner = std::min(title_.size() + 2, static_cast<std::size_t>(std::max(widest, 1)));
+  for (const std::u32string& line : lines) inner = std::max(inner, line.size());
   std::size_t captions = 0;
   for (const Button& button : buttons_) captions += button.caption.size() + 2;
-  for (const std::u32string& line : lines) inner = std::max(inner, line.size());
   const int width = static_cast<int>(std::max(inner, captions)) + 2 * kMargin + 2;
-  const int height = static_cast<int>(lines.size()) + 5;  // frame, a row around the text, the buttons
+  // A row of air around the text where there is room for it.
+  const int air = grid.Height() >= count + kAround + 2 ? 1 : 0;
+  const int shown = std::clamp(grid.Height() - kAround - 2 * air, 1, count);
+  const int height = shown + kAround + 2 * air;
   const int x = std::max((grid.Width() - width) / 2, 0);
-  // Half of what is missing would cut the buttons off; all of it is taken from the top.
-  const int y = std::min((grid.Height() - height) / 2, grid.Height() - height);
+  const int y = std::max((grid.Height() - height) / 2, 0);
+  top_ = std::clamp(top_, 0, count - shown);
 
   const Style style{kWindowBackground}, frame{kWindowBackground, kStrong};
   const std::u32string bar(static_cast<std::size_t>(width - 2), U'─');
@@ -84,21 +97,27 @@ void MessageBox::Draw(Screen& screen) {
   grid.Put(x, y, U"┌" + bar + U"┐", frame);
   grid.Put(x + 2, y, U" " + Shortened(title_, width - 6) + U" ", frame);
   grid.Put(x, y + height - 1, U"└" + bar + U"┘", frame);
-  int row = y + 2;
-  for (const std::u32string& line : lines) grid.Put(x + 1 + kMargin, row++, line, style);
+  for (int row = 0; row < shown; ++row) {
+    grid.Put(x + 1 + kMargin, y + 1 + air + row, lines[static_cast<std::size_t>(top_ + row)], style);
+  }
+  if (top_ > 0) grid.Put(x + width - 1, y + 1 + air, U'▲', frame);
+  if (top_ + shown < count) grid.Put(x + width - 1, y + air + shown, U'▼', frame);
 
   // The form below takes no clicks while the box is open.
   screen.targets.clear();
-  int column = x + (width - static_cast<int>(captions)) / 2 + 1;
+  DrawButtons(screen, x + (width - static_cast<int>(captions)) / 2 + 1, y + height - 2, grid.Width());
+}
+
+void MessageBox::DrawButtons(Screen& screen, int x, int y, int width) {
   for (std::size_t i = 0; i < buttons_.size(); ++i) {
     const std::u32string_view caption = buttons_[i].caption;
     const bool chosen = i == chosen_;
-    grid.Put(column, y + height - 2, caption,
-             {kWindowBackground, chosen ? Marks(kActive | kSelected) : kPlain});
-    if (chosen) grid.caret = {std::clamp(column + 2, 0, grid.Width() - 1), std::max(y + height - 2, 0)};
-    screen.targets.push_back({column, y + height - 2, static_cast<int>(caption.size()),
-                              [this, i](int) { answer_ = buttons_[i].answer; }});
-    column += static_cast<int>(caption.size()) + 2;
+    screen.grid.Put(x, y, caption, {kWindowBackground, chosen ? Marks(kActive | kSelected) : kPlain});
+    if (chosen)
+      screen.grid.caret = {std::clamp(x + 2, 0, width - 1), std::clamp(y, 0, screen.grid.Height() - 1)};
+    screen.targets.push_back(
+        {x, y, static_cast<int>(caption.size()), [this, i](int) { answer_ = buttons_[i].answer; }});
+    x += static_cast<int>(caption.size()) + 2;
   }
 }
 

@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-#include "hosts/terminal/form_view.h"
+#include "hosts/terminal/screen.h"
 
 namespace gabarito::terminal {
 
@@ -17,17 +17,22 @@ std::int32_t DefaultButton(std::int32_t flags);
 
 class MessageBox {
  public:
-  // `flags` as dialogs.h tells them. Without a title "Gabarito".
-  MessageBox(std::u16string_view text, std::int32_t flags, std::optional<std::u16string_view> title);
+  // `flags` as dialogs.h tells them.
+  MessageBox(std::u32string_view text, std::int32_t flags, std::u32string_view title);
 
-  // Centred, over what `screen` shows; its targets take the place of those that are there. A window too
-  // small for it shows its end, with the buttons.
+  // Whether there is more than one answer.
+  bool IsQuestion() const { return buttons_.size() > 1; }
+
+  // Centred, over what `screen` shows; its targets take the place of those that are there. A text longer than
+  // the window is turned by the arrows, Page Up, Page Down and the wheel.
   void Draw(Screen& screen);
 
   // A key: Tab and the arrows walk the buttons, Enter and the blank press one, a button's first letter
   // presses it, Escape is OK or No.
   void Press(std::int16_t vk);
   void Type(char16_t character);
+  // Turns the text by rows, down for more than 0.
+  void Turn(int rows) { top_ += rows; }
 
   // The button that was pressed.
   const std::optional<std::int32_t>& Answer() const { return answer_; }
@@ -38,11 +43,14 @@ class MessageBox {
     std::int32_t answer;
   };
 
+  void DrawButtons(Screen& screen, int x, int y, int width);
+
   std::u32string title_;
   std::u32string text_;
   std::vector<Button> buttons_;
   std::size_t chosen_ = 0;
   std::optional<std::int32_t> answer_;
+  int top_ = 0;  // the first row of the text that is on show
 };
 
 // `text` in lines of at most `width` cells, broken at blanks where that is possible and at line breaks

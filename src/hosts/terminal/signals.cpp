@@ -63,18 +63,21 @@ void Signals::Install() {
   for (const Former& former : former_) sigaction(former.signal, &action, nullptr);
 }
 
-Signals::Event Signals::Wait(int descriptor) {
+Signals::Event Signals::Wait(int descriptor, std::optional<std::chrono::milliseconds> most) {
   // A signal between a check of the flags and a plain poll would wait for the next key; ppoll lets signals in
   // and waits in one step.
   sigset_t open = former_mask_;
   for (const Former& former : former_) sigdelset(&open, former.signal);
+  // A signal that changes nothing starts the time anew, which is a moment more.
+  timespec time{};
+  if (most) time = {.tv_sec = most->count() / 1000, .tv_nsec = most->count() % 1000 * 1000000};
   pollfd input{.fd = descriptor, .events = POLLIN, .revents = 0};
   while (true) {
     if (const int signal = TakePending()) return {.signal = signal};
-    const int ready = ppoll(&input, 1, nullptr, &open);
+    const int ready = ppoll(&input, 1, most ? &time : nullptr, &open);
     if (ready < 0 && errno == EINTR) continue;
     if (ready < 0 || (input.revents & (POLLHUP | POLLERR | POLLNVAL)) != 0) return {.closed = true};
-    return {};
+    return {.late = ready == 0};
   }
 }
 

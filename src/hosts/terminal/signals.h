@@ -2,7 +2,9 @@
 #ifndef HOSTS_TERMINAL_SIGNALS_H
 #define HOSTS_TERMINAL_SIGNALS_H
 
+#include <chrono>
 #include <csignal>
+#include <optional>
 #include <vector>
 
 namespace gabarito::terminal {
@@ -18,10 +20,11 @@ class Signals {
 
   // What Wait came back for.
   struct Event {
-    int signal = 0;       // 0: `descriptor` can be read, or `closed`
+    int signal = 0;       // 0: `descriptor` can be read, or one of the next two
     bool closed = false;  // the other end of `descriptor` has gone
+    bool late = false;    // `most` has passed
   };
-  Event Wait(int descriptor);
+  Event Wait(int descriptor, std::optional<std::chrono::milliseconds> most);
 
   // Stops the program as SIGTSTP does, and returns when it is continued.
   void Stop();

@@ -76,6 +76,7 @@ Terminal::Terminal() : out_(OpenScreen()) {
 
 Terminal::~Terminal() {
   if (screen_ == nullptr) return;
+  BracketPastes(false);
   endwin();
   delscreen(screen_);
 }
@@ -89,7 +90,15 @@ void Terminal::SetUpKeys() {
   timeout(kRestOfKey);
   DefineKeys();
   mouseinterval(0);  // a press counts at once, without waiting for the click that it may become
-  mousemask(BUTTON1_PRESSED | BUTTON1_CLICKED, nullptr);
+  mousemask(BUTTON1_PRESSED | BUTTON1_CLICKED | BUTTON4_PRESSED | BUTTON5_PRESSED, nullptr);
+  BracketPastes(true);
+}
+
+// A terminal that brackets what is pasted tells it from what is typed; one that does not know this ignores
+// it.
+void Terminal::BracketPastes(bool on) {
+  std::fputs(on ? "\033[?2004h" : "\033[?2004l", out_.get());
+  std::fflush(out_.get());
 }
 
 void Terminal::SetUpColors() {
@@ -110,19 +119,24 @@ int Terminal::PairOf(int fore, int back) {
 }
 
 std::pair<unsigned, int> Terminal::AttributesOf(const Style& style) {
+  const auto has = [&](Marks marks) { return (style.marks & marks) != 0; };
   unsigned attributes = A_NORMAL;
-  if ((style.marks & kSelected) != 0) attributes |= A_REVERSE;
+  if (has(kSelected)) attributes |= A_REVERSE;
+  if (has(kDim) && colors_ < 16) attributes |= A_DIM;
   if (colors_ == 0) {
-    if ((style.marks & kEntry) != 0) attributes |= A_UNDERLINE;
-    if ((style.marks & (kActive | kStrong)) != 0) attributes |= A_BOLD;
+    if (has(kEntry)) attributes |= A_UNDERLINE;
+    if (has(kActive | kStrong | kAlarm)) attributes |= A_BOLD;
     // Title and help are dark bars.
     if (IsDark(style.back)) attributes ^= A_REVERSE;
     return {attributes, 0};
   }
-  if ((style.marks & kFlatEdge) != 0) attributes |= A_UNDERLINE;
-  constexpr Color kWhite = 0x00FFFFFF, kBlack = 0;
-  const int fore = TerminalColor(IsDark(style.back) ? kWhite : kBlack, colors_);
-  return {attributes, PairOf(fore, TerminalColor(style.back, colors_))};
+  if (has(kFlatEdge)) attributes |= A_UNDERLINE;
+  if (has(kStrong | kAlarm)) attributes |= A_BOLD;
+  constexpr Color kWhite = 0x00FFFFFF, kBlack = 0, kGrey = 0x00686868, kRed = 0x000000B0;
+  Color fore = IsDark(style.back) ? kWhite : kBlack;
+  if (has(kAlarm)) fore = kRed;
+  if (has(kDim) && colors_ >= 16) fore = kGrey;
+  return {attributes, PairOf(TerminalColor(fore, colors_), TerminalColor(style.back, colors_))};
 }
 
 void Terminal::Show(const Screen& screen) {
@@ -147,19 +161,16 @@ void Terminal::Show(const Screen& screen) {
 
 void Terminal::Beep() { beep(); }
 
-Input Terminal::Next() {
+Input Terminal::Next(std::optional<std::chrono::milliseconds> most) {
   while (true) {
-    wint_t character = 0;
-    const int result = get_wch(&character);
-    if (result != ERR) {
-      const auto input = result == KEY_CODE_YES ? InputOfKey(static_cast<int>(character))
-                                                : InputOfCharacter(static_cast<char32_t>(character));
-      if (input) return *input;
+    if (const std::optional<Input> input = ReadInput()) {
+      if (input->kind != Input::Kind::kNothing) return *input;
       continue;
     }
     // Nothing is left in the queue of ncurses, so there is nothing that waiting could overlook.
-    const Signals::Event event = signals_.Wait(STDIN_FILENO);
+    const Signals::Event event = signals_.Wait(STDIN_FILENO, most);
     if (event.closed) throw Interrupted{SIGHUP};
+    if (event.late) return {.kind = Input::Kind::kTime};
     switch (event.signal) {
       case 0:
         break;
@@ -178,6 +189,7 @@ Input Terminal::Next() {
 
 // Another program has had the terminal when this one goes on.
 void Terminal::Suspend() {
+  BracketPastes(false);
   endwin();
   signals_.Stop();
   FitWindow();
@@ -186,6 +198,7 @@ void Terminal::Suspend() {
 void Terminal::FitWindow() {
   // Whoever continued the program may have left the terminal in another mode.
   reset_prog_mode();
+  BracketPastes(true);
   winsize size{};
   if (ioctl(fileno(out_.get()), TIOCGWINSZ, &size) == 0 && size.ws_row > 0 && size.ws_col > 0) {
     resizeterm(size.ws_row, size.ws_col);

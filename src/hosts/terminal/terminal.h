@@ -35,7 +35,7 @@ class Terminal final : public Display {
   int Width() const override;
   int Height() const override;
   void Show(const Screen& screen) override;
-  Input Next() override;
+  Input Next(std::optional<std::chrono::milliseconds> most) override;
   void Beep() override;
 
  private:
@@ -44,6 +44,7 @@ class Terminal final : public Display {
   };
 
   void SetUpKeys();
+  void BracketPastes(bool on);
   void SetUpColors();
   void Suspend();
   void FitWindow();

@@ -3,6 +3,8 @@
 #define NCURSES_WIDECHAR 1
 #define NCURSES_NOMACROS 1
 #include <curses.h>
+#include <poll.h>
+#include <unistd.h>
 
 #include <algorithm>
 
@@ -14,8 +16,20 @@ namespace {
 constexpr std::int16_t kVkPageUp = 33, kVkPageDown = 34, kVkEnd = 35, kVkHome = 36, kVkLeft = 37, kVkUp = 38,
                        kVkRight = 39, kVkDown = 40, kVkF4 = 115;
 
-// Codes of our own for keys that ncurses has none for.
-enum OwnKey { kShiftHome = KEY_MAX + 1, kShiftEnd, kAltUp, kAltDown };
+// Codes of our own for keys that ncurses has none for, beyond those that it gives to the extended keys of a
+// terminal's description.
+enum OwnKey {
+  kShiftHome = KEY_MAX + 1000,
+  kShiftEnd,
+  kAltUp,
+  kAltDown,
+  kWordLeft,
+  kWordRight,
+  kShiftWordLeft,
+  kShiftWordRight,
+  kPasteStart,
+  kPasteEnd
+};
 
 struct Sequence {
   const char* text;
@@ -24,13 +38,45 @@ struct Sequence {
 
 // What common terminals send with cursor keys in either mode, and what vt100 and screen do not describe.
 constexpr Sequence kSequences[] = {
-    {"\033[A", KEY_UP},       {"\033[B", KEY_DOWN},      {"\033[C", KEY_RIGHT},    {"\033[D", KEY_LEFT},
-    {"\033[H", KEY_HOME},     {"\033[F", KEY_END},       {"\033OH", KEY_HOME},     {"\033OF", KEY_END},
-    {"\033[1~", KEY_HOME},    {"\033[4~", KEY_END},      {"\033[3~", KEY_DC},      {"\033[5~", KEY_PPAGE},
-    {"\033[6~", KEY_NPAGE},   {"\033[Z", KEY_BTAB},      {"\033OS", KEY_F(4)},     {"\033[14~", KEY_F(4)},
-    {"\033[21~", KEY_F(10)},  {"\033[1;2A", KEY_SR},     {"\033[1;2B", KEY_SF},    {"\033[1;2C", KEY_SRIGHT},
-    {"\033[1;2D", KEY_SLEFT}, {"\033[1;2H", kShiftHome}, {"\033[1;2F", kShiftEnd}, {"\033[1;3A", kAltUp},
+    {"\033[A", KEY_UP},
+    {"\033[B", KEY_DOWN},
+    {"\033[C", KEY_RIGHT},
+    {"\033[D", KEY_LEFT},
+    {"\033[H", KEY_HOME},
+    {"\033[F", KEY_END},
+    {"\033OH", KEY_HOME},
+    {"\033OF", KEY_END},
+    {"\033[1~", KEY_HOME},
+    {"\033[4~", KEY_END},
+    {"\033[3~", KEY_DC},
+    {"\033[5~", KEY_PPAGE},
+    {"\033[6~", KEY_NPAGE},
+    {"\033[Z", KEY_BTAB},
+    {"\033OS", KEY_F(4)},
+    {"\033[14~", KEY_F(4)},
+    {"\033[21~", KEY_F(10)},
+    {"\033[1;2A", KEY_SR},
+    {"\033[1;2B", KEY_SF},
+    {"\033[1;2C", KEY_SRIGHT},
+    {"\033[1;2D", KEY_SLEFT},
+    {"\033[1;2H", kShiftHome},
+    {"\033[1;2F", kShiftEnd},
+    {"\033[1;3A", kAltUp},
     {"\033[1;3B", kAltDown},
+    {"\033OP", KEY_F(1)},
+    {"\033[11~", KEY_F(1)},
+    {"\033[[A", KEY_F(1)},
+    {"\033[[D", KEY_F(4)},
+    {"\033[1;5D", kWordLeft},
+    {"\033[1;5C", kWordRight},
+    {"\033[1;3D", kWordLeft},
+    {"\033[1;3C", kWordRight},
+    {"\033Od", kWordLeft},
+    {"\033Oc", kWordRight},
+    {"\033[1;6D", kShiftWordLeft},
+    {"\033[1;6C", kShiftWordRight},
+    {"\033[200~", kPasteStart},
+    {"\033[201~", kPasteEnd},
 };
 
 struct Key {
@@ -65,46 +111,154 @@ constexpr Key kKeys[] = {
     {kAltDown, kVkDown, kAltMask},
 };
 
+struct WordKey {
+  int code;
+  int turns;
+  std::int16_t shift;
+};
+
+constexpr WordKey kWordKeys[] = {{kWordLeft, -1, 0},
+                                 {kWordRight, 1, 0},
+                                 {kShiftWordLeft, -1, kShiftMask},
+                                 {kShiftWordRight, 1, kShiftMask}};
+
+constexpr char32_t kEscape = 27, kDel = 127;
+constexpr Input kNoInput{.kind = Input::Kind::kNothing};
+
 Input KeyInput(std::int16_t vk, std::int16_t shift = 0) {
   return {.kind = Input::Kind::kKey, .vk = vk, .shift = shift};
 }
 
-}  // namespace
-
-void DefineKeys() {
-  for (const Sequence& sequence : kSequences) {
-    // The description of the terminal knows better where it has the sequence for another key.
-    if (key_defined(sequence.text) <= 0) define_key(sequence.text, sequence.code);
-  }
+Input WordStep(int turns, std::int16_t shift) {
+  return {.kind = Input::Kind::kWordStep, .shift = shift, .turns = turns};
 }
 
-std::optional<Input> InputOfKey(int code) {
-  Input input;
-  if (code == KEY_RESIZE) return input;
-  if (code == KEY_F(10)) {
-    input.kind = Input::Kind::kLeave;
-    return input;
-  }
+// What ncurses has to give: a key by its code or a character; `none` when nothing is there.
+struct Event {
+  bool none = false;
+  int code = 0;  // 0: a character
+  char32_t character = 0;
+};
+
+// Waits as long as a sequence needs for its rest.
+Event NextEvent() {
+  wint_t given = 0;
+  const int result = get_wch(&given);
+  if (result == ERR) return {.none = true};
+  if (result == KEY_CODE_YES) return {.code = static_cast<int>(given)};
+  return {.character = static_cast<char32_t>(given)};
+}
+
+// What lies outside the first plane is one character that no field takes, not two.
+char16_t Unit(char32_t character) {
+  return character > 0xFFFF ? u'\uFFFD' : static_cast<char16_t>(character);
+}
+
+Input MouseInput() {
+  MEVENT event;
   // A release comes as an event of its own, and is none for the form.
-  if (code == KEY_MOUSE) {
-    MEVENT event;
-    if (getmouse(&event) != OK || (event.bstate & (BUTTON1_PRESSED | BUTTON1_CLICKED)) == 0) return {};
-    input.kind = Input::Kind::kClick;
-    input.at = {event.x, event.y};
-    return input;
+  if (getmouse(&event) != OK) return kNoInput;
+  const Point at{event.x, event.y};
+  if ((event.bstate & (BUTTON1_PRESSED | BUTTON1_CLICKED)) != 0) {
+    return {.kind = Input::Kind::kClick, .at = at};
   }
-  const auto key = std::ranges::find(kKeys, code, &Key::code);
-  if (key == std::end(kKeys)) return {};
-  return KeyInput(key->vk, key->shift);
+  if ((event.bstate & BUTTON4_PRESSED) != 0) return {.kind = Input::Kind::kWheel, .turns = -1, .at = at};
+  if ((event.bstate & BUTTON5_PRESSED) != 0) return {.kind = Input::Kind::kWheel, .turns = 1, .at = at};
+  return kNoInput;
 }
 
-std::optional<Input> InputOfCharacter(char32_t character) {
-  constexpr char32_t kCtrlQ = 17, kDel = 127;
+// Up to the end of the paste, as one line: a run of line breaks and tabs becomes a blank, but for those
+// around it all; other control characters and keys that the text happens to spell are left out.
+Input PasteInput() {
+  constexpr int kPatience = 1000;  // milliseconds for the rest of a paste that a slow line breaks up
+  constexpr std::size_t kLongest = 100000;
+  Input input{.kind = Input::Kind::kPaste};
+  bool blank = false;  // one is due before the next character
+  while (true) {
+    const Event event = NextEvent();
+    if (event.none) {
+      pollfd more{.fd = STDIN_FILENO, .events = POLLIN, .revents = 0};
+      if (poll(&more, 1, kPatience) <= 0 || (more.revents & POLLIN) == 0) return input;
+      continue;
+    }
+    if (event.code == kPasteEnd) return input;
+    if (event.code != 0 || input.text.size() >= kLongest) continue;
+    const char32_t c = event.character;
+    if (c == U'\r' || c == U'\n' || c == U'\t') blank = !input.text.empty();
+    if (c < U' ' || c == kDel) continue;
+    if (blank) input.text.push_back(u' ');
+    blank = false;
+    input.text.push_back(Unit(c));
+  }
+}
+
+bool EndsSequence(char32_t c) { return c >= U'@' && c <= U'~'; }
+
+// Takes the rest of a sequence whose introducer has been taken. What is no sequence at all ends with the
+// first pause.
+void Swallow(char32_t introducer) {
+  const bool text = introducer != U'[' && introducer != U'O';  // ends with BEL or ESC "\"
+  constexpr char32_t kBell = 7;
+  bool first = true, escaped = false;
+  while (true) {
+    const Event event = NextEvent();
+    if (event.none || event.code != 0) return;
+    const char32_t c = event.character;
+    if (text) {
+      if (c == kBell || (escaped && c == U'\\')) return;
+      escaped = c == kEscape;
+      continue;
+    }
+    // The console of Linux has a second "[" in front of a letter.
+    if (EndsSequence(c) && !(first && introducer == U'[' && c == U'[')) return;
+    first = false;
+  }
+}
+
+// Behind an Escape: alone it is the key; with a character it is Alt and that key, or a sequence that ncurses
+// does not know.
+Input EscapeInput() {
+  Event event = NextEvent();
+  while (event.character == kEscape) event = NextEvent();
+  if (event.none) return KeyInput(kVkEscape);
+  if (event.code != 0) return kNoInput;
+  switch (event.character) {
+    case U'b':
+      return WordStep(-1, 0);
+    case U'f':
+      return WordStep(1, 0);
+    case U'[':
+    case U'O':
+    case U']':
+    case U'P':
+    case U'_':
+    case U'^':
+    case U'X':
+      Swallow(event.character);
+      return kNoInput;
+    default:
+      return kNoInput;
+  }
+}
+
+// A key code of ncurses.
+Input InputOfKey(int code) {
+  if (code == KEY_RESIZE) return {};
+  if (code == KEY_F(1)) return {.kind = Input::Kind::kHelp};
+  if (code == KEY_F(10)) return {.kind = Input::Kind::kFinish};
+  if (code == KEY_MOUSE) return MouseInput();
+  if (code == kPasteStart) return PasteInput();
+  const auto* const word = std::ranges::find(kWordKeys, code, &WordKey::code);
+  if (word != std::end(kWordKeys)) return WordStep(word->turns, word->shift);
+  const auto* const key = std::ranges::find(kKeys, code, &Key::code);
+  return key == std::end(kKeys) ? kNoInput : KeyInput(key->vk, key->shift);
+}
+
+// A character that a key typed.
+Input InputOfCharacter(char32_t character) {
   switch (character) {
     case 0:
-      return {};
-    case kCtrlQ:
-      return Input{.kind = Input::Kind::kLeave};
+      return kNoInput;
     // Terminals disagree on which of the two Backspace sends.
     case U'\b':
     case kDel:
@@ -114,14 +268,28 @@ std::optional<Input> InputOfCharacter(char32_t character) {
     case U'\r':
     case U'\n':
       return KeyInput(kVkReturn);
-    case U'\033':
-      return KeyInput(kVkEscape);
+    case kEscape:
+      return EscapeInput();
     default:
-      break;
+      return {.kind = Input::Kind::kCharacter, .character = Unit(character)};
   }
-  // What lies outside the first plane is one character that no field takes, not two.
-  const char16_t unit = character > 0xFFFF ? u'�' : static_cast<char16_t>(character);
-  return Input{.kind = Input::Kind::kCharacter, .character = unit};
+}
+
+}  // namespace
+
+void DefineKeys() {
+  for (const Sequence& sequence : kSequences) {
+    // The description of the terminal knows better where it has the sequence for another key. Its extended
+    // keys have codes that differ from terminal to terminal.
+    const int known = key_defined(sequence.text);
+    if (known <= 0 || known > KEY_MAX) define_key(sequence.text, sequence.code);
+  }
+}
+
+std::optional<Input> ReadInput() {
+  const Event event = NextEvent();
+  if (event.none) return {};
+  return event.code != 0 ? InputOfKey(event.code) : InputOfCharacter(event.character);
 }
 
 }  // namespace gabarito::terminal

@@ -11,11 +11,10 @@ namespace gabarito::terminal {
 // Teaches ncurses the sequences that terminals send beyond what their description says.
 void DefineKeys();
 
-// A key code of ncurses; nothing for one that means nothing here.
-std::optional<Input> InputOfKey(int code);
-
-// A character that a key typed; nothing for NUL, which no key of the form types.
-std::optional<Input> InputOfCharacter(char32_t character);
+// The next key, click or paste that has arrived; nothing when none has. Escape sequences that mean nothing
+// here and keys with Alt are kNothing as a whole: none of their characters comes through as if it had been
+// typed.
+std::optional<Input> ReadInput();
 
 }  // namespace gabarito::terminal
 

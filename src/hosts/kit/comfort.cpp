@@ -57,16 +57,17 @@ SeparatorStep StepOver(InputModel& child, char16_t character) {
   if (child.Kind() != InputKind::kTextBox) return step;
   FieldParts& parts = child.Parts();
   const auto& box = static_cast<TextBoxModel&>(child);
-  const bool empty = box.Text().empty();
-  if (!empty && box.SelLength() != 0) return step;
+  // As a jump leaves it: nothing in it, or all of it selected.
+  const bool fresh = box.SelLength() == static_cast<std::int32_t>(box.Text().size());
+  if (!fresh && box.SelLength() != 0) return step;
   const float end = box.Bounds().left + box.Bounds().width;
   for (const LabelModel& label : parts.lbl_controle) {
     if (!Separates(label, character)) continue;
     const float left = label.Bounds().left;
-    if (!empty && left >= end - kOverlap && ChildBehind(parts, end - kOverlap) == ChildBehind(parts, left)) {
+    if (!fresh && left >= end - kOverlap && ChildBehind(parts, end - kOverlap) == ChildBehind(parts, left)) {
       step.to = ChildBehind(parts, left);
     }
-    if (empty && left < box.Bounds().left && ChildBehind(parts, left) == &child) step.passed = true;
+    if (fresh && left < box.Bounds().left && ChildBehind(parts, left) == &child) step.passed = true;
   }
   return step;
 }

@@ -1,20 +1,10 @@
-// Whole stories: each file of this folder is a script whose expected transcript stands between its lines.
-//
-// A line that begins with "#= " is what the lines above it write, one for each line of the transcript. It is
-// a comment to the program, so a story can also be run by hand: gabarito script tests/stories/cpf.txt. With
-// GABARITO_STORIES_RECORD set the files are written anew from what happens: read the difference.
-#include <gtest/gtest.h>
+#include "story.h"
 
 #include <algorithm>
-#include <cstdlib>
-#include <filesystem>
 #include <fstream>
 #include <sstream>
-#include <string>
-#include <vector>
 
-#include "cli/memory_stage.h"
-#include "script/script.h"
+#include "script/properties.h"
 
 namespace gabarito::script {
 namespace {
@@ -65,57 +55,76 @@ std::string Ask(Script& script, std::stringstream& out, std::string_view answers
   return asked;
 }
 
-class Story : public testing::TestWithParam<std::filesystem::path> {};
-
-TEST_P(Story, HappensAsTold) {
-  const bool record = std::getenv("GABARITO_STORIES_RECORD") != nullptr;
-  std::ifstream file(GetParam());
-  const std::vector<std::string> lines = LinesOf(file);
-  ASSERT_FALSE(lines.empty()) << GetParam();
-  if (!IsFor(lines[0], "memory")) GTEST_SKIP();
-  std::stringstream out;
-  cli::MemoryStage stage;
-  Script script(stage, out);
+struct Told {
+  std::vector<Difference> differences;
   std::string recorded;
+};
+
+// A line that is not understood is a difference too.
+std::string Carry(Script& script, const std::string& action) {
+  try {
+    script.Line(action);
+  } catch (const UsageError& fault) {
+    return std::string("not understood: ") + fault.what();
+  }
+  return {};
+}
+
+Told Play(const std::filesystem::path& story, Stage& stage) {
+  std::ifstream file(story);
+  const std::vector<std::string> lines = LinesOf(file);
+  Told told;
+  if (lines.empty()) told.differences.push_back({0, {}, "a story", "no lines"});
+  std::stringstream out;
+  Script script(stage, out);
   std::string untold;
+  const auto expect = [&](std::size_t line, const std::string& action, const std::string& expected,
+                          const std::string& happened) {
+    if (happened != expected) told.differences.push_back({line, action, expected, happened});
+  };
   for (std::size_t i = 0; i < lines.size();) {
     const std::string& action = lines[i++];
     if (action.starts_with(kAnswers)) {
       const std::string answers = action.substr(kAnswers.size());
       const std::string asked = Ask(script, out, answers);
-      if (!record) {
-        EXPECT_EQ(asked, answers) << GetParam().filename() << ", line " << i;
-      }
-      recorded.append(kAnswers).append(asked) += '\n';
+      expect(i, action, answers, asked);
+      told.recorded.append(kAnswers).append(asked) += '\n';
       continue;
     }
-    recorded += action + '\n';
+    told.recorded += action + '\n';
     if (action.starts_with(kUntold)) untold = action.substr(kUntold.size());
-    ASSERT_NO_THROW(script.Line(action)) << "line " << i << ": " << action;
+    expect(i, action, {}, Carry(script, action));
+    const std::size_t line = i;
     std::string expected;
     if (i < lines.size() && lines[i].starts_with(kExpected)) expected = lines[i++].substr(kExpected.size());
     const std::string happened = Happened(out, untold);
-    if (!happened.empty()) recorded.append(kExpected).append(happened) += '\n';
-    if (!record) {
-      EXPECT_EQ(happened, expected) << GetParam().filename() << ", line " << i << ": " << action;
-    }
+    if (!happened.empty()) told.recorded.append(kExpected).append(happened) += '\n';
+    expect(line, action, expected, happened);
   }
-  if (record) std::ofstream(GetParam()) << recorded;
+  return told;
 }
 
-std::vector<std::filesystem::path> Stories() {
+}  // namespace
+
+std::vector<std::filesystem::path> StoriesFor(std::string_view stage) {
   std::vector<std::filesystem::path> files;
   for (const auto& entry : std::filesystem::directory_iterator(GABARITO_STORIES)) {
-    if (entry.path().extension() == ".txt" && entry.path().filename() != "CMakeLists.txt") {
-      files.push_back(entry.path());
-    }
+    std::ifstream file(entry.path());
+    std::string first;
+    std::getline(file, first);
+    if (IsFor(first, stage)) files.push_back(entry.path());
   }
   std::sort(files.begin(), files.end());
   return files;
 }
 
-INSTANTIATE_TEST_SUITE_P(Of, Story, testing::ValuesIn(Stories()),
-                         [](const auto& story) { return story.param.stem().string(); });
+std::vector<Difference> PlayStory(const std::filesystem::path& story, Stage& stage) {
+  return Play(story, stage).differences;
+}
 
-}  // namespace
+void RecordStory(const std::filesystem::path& story, Stage& stage) {
+  const std::string recorded = Play(story, stage).recorded;
+  std::ofstream(story) << recorded;
+}
+
 }  // namespace gabarito::script

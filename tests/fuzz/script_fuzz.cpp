@@ -48,7 +48,8 @@ bool OneArray(const Campo& field) {
 
 }  // namespace
 
-std::string Attack::Run(const std::string& line) {
+std::string Attack::Run(std::string line) {
+  line.erase(0, line.find_first_not_of(" \t"));
   out_.str({});
   try {
     script_.Line(line);

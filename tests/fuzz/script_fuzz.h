@@ -24,7 +24,7 @@ std::string RandomLine(const Dice& dice);
 class Attack {
  public:
   // Runs the line. Empty, or what is wrong: an exception that is no UsageError, or a broken invariant.
-  std::string Run(const std::string& line);
+  std::string Run(std::string line);
 
  private:
   std::string BrokenInvariant(const std::string& line);

@@ -45,6 +45,16 @@ if(WAY STREQUAL "subproject")
   return()
 endif()
 
+# A build that is not there yet: one clear line, and no prefix.
+run(${CMAKE_COMMAND} -S ${SOURCES} -B ${WORK}/unbuilt -G ${GENERATOR} -D CMAKE_CXX_COMPILER=${COMPILER}
+    -D GABARITO_TESTS=OFF)
+execute_process(COMMAND ${CMAKE_COMMAND} --install ${WORK}/unbuilt --prefix ${WORK}/nothing
+                RESULT_VARIABLE status OUTPUT_QUIET ERROR_VARIABLE text)
+string(REPLACE "\n" " " text "${text}")
+if(status EQUAL 0 OR EXISTS ${WORK}/nothing OR NOT text MATCHES "nothing is installed.*is missing: run +cmake --build")
+  message(FATAL_ERROR "installing what is not built ends with ${status}: ${text}")
+endif()
+
 file(GLOB_RECURSE archives RELATIVE ${prefix} ${prefix}/*.a)
 list(TRANSFORM archives REPLACE "^.*/" "")
 if(NOT "libgabarito.a" IN_LIST archives OR archives MATCHES "_(platform|control)")
@@ -66,16 +76,14 @@ _gabarito ${prefix}/bin/gabarito gbCP --mask
 echo \${COMPREPLY[@]}")
 compare("the completion")
 
-# The same field without CMake: compiler and pkg-config.
-find_program(pkg_config pkg-config)
-if(pkg_config)
-  file(WRITE ${WORK}/rules.cpp "#include <gabarito/gabarito.h>\n#include <gabarito/control/especie.h>\n"
-       "int main() { return gabarito::EspecieDe(240).nome == \"gbCPF\" ? 0 : 1; }\n")
-  file(GLOB_RECURSE pc ${prefix}/gabarito.pc)
-  cmake_path(GET pc PARENT_PATH pc_dir)
-  set(ENV{PKG_CONFIG_PATH} ${pc_dir})
-  run(${pkg_config} --cflags --libs gabarito)
-  separate_arguments(flags UNIX_COMMAND "${FLAGS} ${output}")
-  run(${COMPILER} -std=c++20 ${WORK}/rules.cpp ${flags} -o ${WORK}/rules)
-  run(${WORK}/rules)
-endif()
+# The example of the README without CMake: compiler and pkg-config, which tells the language level too.
+find_program(pkg_config pkg-config REQUIRED)
+file(GLOB_RECURSE pc ${prefix}/gabarito-memory.pc)
+cmake_path(GET pc PARENT_PATH pc_dir)
+set(ENV{PKG_CONFIG_PATH} ${pc_dir})
+run(${pkg_config} --cflags --libs gabarito-memory)
+separate_arguments(flags UNIX_COMMAND "${FLAGS} ${output}")
+run(${COMPILER} ${SOURCES}/examples/embed.cpp ${flags} -o ${WORK}/embed)
+run(${WORK}/embed)
+set(expected "111.444.777-35\nO CPF informado é inválido.\n\n")
+compare("the example")

@@ -48,7 +48,10 @@ TEST(FormSession, GivingUpTakesAYesOrCtrlCWithNothingSelected) {
   const std::string list = R"([{"name":"a","mask":100},{"name":"b","mask":"gbEstado"}])";
   TypedDisplay display;
   display.Key(kVkEscape)
-      .Then([&] { EXPECT_TRUE(display.Shows("Desistir?")); })
+      .Then([&] {
+        EXPECT_TRUE(display.Shows("Desistir?") &&
+                    display.shown.Row(23) == " Tab troca · Enter escolhe · Esc não");
+      })
       .Key(kVkEscape)
       .Text(u"x")
       .Finish();

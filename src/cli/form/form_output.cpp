@@ -53,6 +53,7 @@ std::string WithoutNul(std::string text) {
   return text;
 }
 
+// Member by member: an object that keeps their order looks at all of them for each.
 std::string AsJson(const std::vector<terminal::FieldValue>& values, bool nulls) {
   std::string object = "{";
   for (const terminal::FieldValue& value : values) {

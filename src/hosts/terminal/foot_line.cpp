@@ -2,8 +2,6 @@
 
 #include <vector>
 
-#include "hosts/terminal/grid.h"
-
 namespace gabarito::terminal {
 namespace {
 
@@ -29,18 +27,28 @@ Keys KeysThatWork(FormModel& model) {
           U"Shift+Tab volta"};
 }
 
-}  // namespace
-
-std::u32string FootLine(FormModel& model, int width) {
+void Draw(Grid& grid, const Keys& keys) {
   constexpr std::u32string_view kBetween = U" · ";
+  const int width = grid.Width() - 2;
   std::u32string line;
-  for (const std::u32string_view key : KeysThatWork(model)) {
+  for (const std::u32string_view key : keys) {
     const std::size_t size = line.size() + (line.empty() ? 0 : kBetween.size()) + key.size();
     if (static_cast<int>(size) > width) continue;
     if (!line.empty()) line += kBetween;
     line += key;
   }
-  return line;
+  const int y = grid.Height() - 1;
+  grid.Fill(0, y, grid.Width(), {kBar, kStrong});
+  grid.Put(1, y, line, {kBar, kStrong});
+}
+
+}  // namespace
+
+void DrawFoot(Grid& grid, FormModel& model) { Draw(grid, KeysThatWork(model)); }
+
+void DrawFoot(Grid& grid, const MessageBox& box) {
+  if (box.IsQuestion()) return Draw(grid, {U"Tab troca", U"Enter escolhe", U"Esc não"});
+  Draw(grid, {U"Enter fecha", U"↑↓ percorre"});
 }
 
 std::u32string HelpText(FormModel& model) {

@@ -5,12 +5,15 @@
 #include <string>
 
 #include "hosts/terminal/form_model.h"
+#include "hosts/terminal/grid.h"
+#include "hosts/terminal/message_box.h"
 
 namespace gabarito::terminal {
 
-// Names only keys that do what they are said to do where the focus is. What `width` cells do not hold is left
-// out, the least needed first.
-std::u32string FootLine(FormModel& model, int width);
+// The last row of a screen. Names only keys that do what they are said to do where the focus is, or in the
+// box that lies over the form. What the row does not hold is left out, the least needed first.
+void DrawFoot(Grid& grid, FormModel& model);
+void DrawFoot(Grid& grid, const MessageBox& box);
 
 // The page of F1: the field with the focus, then all keys.
 std::u32string HelpText(FormModel& model);

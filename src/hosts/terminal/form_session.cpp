@@ -230,6 +230,7 @@ void FormSession::Beeped(std::size_t) {
 std::int32_t FormSession::Ask(MessageBox box) {
   while (!box.Answer() && end_ == End::kNotYet && !interrupted_) {
     Screen screen = view_.Draw(display_.Width(), display_.Height());
+    DrawFoot(screen.grid, box);
     box.Draw(screen);
     display_.Show(screen);
     Input input;

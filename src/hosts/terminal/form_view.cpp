@@ -4,12 +4,9 @@
 
 #include "hosts/terminal/field_view.h"
 #include "hosts/terminal/foot_line.h"
-#include "hosts/terminal/message_box.h"
 
 namespace gabarito::terminal {
 namespace {
-
-constexpr Color kTitle = 0x00800000;  // dark blue
 
 constexpr int kBefore = 2;         // columns in front of a label: the mark of the focus and a blank
 constexpr int kBehind = 2;         // between label and boxes
@@ -93,7 +90,7 @@ void FormView::Wheel(int rows) {
 void FormView::DrawFrame(Screen& screen) {
   Grid& grid = screen.grid;
   const int width = grid.Width();
-  const Style bar{kTitle, kStrong};
+  const Style bar{kBar, kStrong};
   const std::size_t count = model_.Lines().size();
   const std::size_t focused = model_.FocusedLine();
   const std::u32string progress =
@@ -110,8 +107,7 @@ void FormView::DrawFrame(Screen& screen) {
     const std::u32string help = ToCells(spec.help.empty() ? tip : std::u16string_view(spec.help));
     grid.Put(kBefore, grid.Height() - 2, Shortened(help, width - kBefore - kMargin), {kButtonFace, kDim});
   }
-  grid.Fill(0, grid.Height() - 1, width, bar);
-  grid.Put(1, grid.Height() - 1, FootLine(model_, width - 2), bar);
+  DrawFoot(grid, model_);
 }
 
 void FormView::DrawRow(Screen& screen, int y, const Row& row, const Columns& columns) {

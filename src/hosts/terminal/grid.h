@@ -23,6 +23,9 @@ inline constexpr Marks kStrong = 16;  // title, headings and frames
 inline constexpr Marks kDim = 32;     // what stands where nothing has been typed
 inline constexpr Marks kAlarm = 64;   // what the person has to look at
 
+// Of the bars at the top and at the bottom: dark blue.
+inline constexpr Color kBar = 0x00800000;
+
 struct Style {
   Color back = kButtonFace;
   Marks marks = kPlain;

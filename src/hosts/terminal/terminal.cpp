@@ -133,10 +133,11 @@ std::pair<unsigned, int> Terminal::AttributesOf(const Style& style) {
   if (has(kFlatEdge)) attributes |= A_UNDERLINE;
   if (has(kStrong | kAlarm)) attributes |= A_BOLD;
   constexpr Color kWhite = 0x00FFFFFF, kBlack = 0, kGrey = 0x00686868, kRed = 0x000000B0;
-  Color fore = IsDark(style.back) ? kWhite : kBlack;
-  if (has(kAlarm)) fore = kRed;
-  if (has(kDim) && colors_ >= 16) fore = kGrey;
-  return {attributes, PairOf(TerminalColor(fore, colors_), TerminalColor(style.back, colors_))};
+  int fore = TerminalColor(IsDark(style.back) ? kWhite : kBlack, colors_);
+  if (has(kAlarm)) fore = TerminalColor(kRed, colors_);
+  // The grey of 16 colours that stands out from the face of buttons is the bright black.
+  if (has(kDim) && colors_ >= 16) fore = colors_ >= 256 ? TerminalColor(kGrey, colors_) : 8;
+  return {attributes, PairOf(fore, TerminalColor(style.back, colors_))};
 }
 
 void Terminal::Show(const Screen& screen) {

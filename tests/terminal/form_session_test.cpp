@@ -27,7 +27,7 @@ TEST(FormSession, ARefusalStandsUnderItsFieldUntilThatChanges) {
 TEST(FormSession, FinishingTakesAFormThatPassesAndLeadsToWhatDoesNot) {
   TypedDisplay display;
   display.Finish().Then([&] {
-    EXPECT_EQ(display.RowOf("✗ preencha este campo"), display.RowOf("▸") + 1);
+    EXPECT_EQ(display.RowOf("✗ preencha este campo"), 2) << "beside it";
     EXPECT_EQ(display.RowOf("▸ nome *"), 2);
   });
   display.Text(u"ana").Finish().Then([&] {
@@ -35,7 +35,7 @@ TEST(FormSession, FinishingTakesAFormThatPassesAndLeadsToWhatDoesNot) {
     EXPECT_EQ(display.RowOf("▸ cpf"), 3);
   });
   display.Text(u"11144477735").Key(kVkTab).Text(u"31022024").Finish().Then([&] {
-    EXPECT_EQ(display.RowOf("✗ A data informada é inválida!"), 5);
+    EXPECT_EQ(display.RowOf("✗ A data informada é inválida!"), 4);
     EXPECT_EQ(display.RowOf("▸ data      ┃05┃ / │03│ / │2024│"), 4) << "the field itself has filled in today";
   });
   display.Finish();
@@ -98,7 +98,7 @@ TEST(FormSession, ARefusedKeyTellsWhyForAMoment) {
     TypedDisplay display;
     const std::string why = row.why;
     display.Text(row.keys).Then([&] {
-      EXPECT_EQ(display.RowOf("! "), why.empty() ? -1 : 3) << row.field;
+      EXPECT_EQ(display.RowOf("! ") > 0, !why.empty()) << row.field;
       EXPECT_TRUE(display.Shows(why)) << row.field << display.shown.Row(3);
       EXPECT_EQ(display.waits.has_value(), !why.empty());
     });
@@ -169,7 +169,7 @@ TEST(FormSession, TheMouseFocusesPlacesTheCaretOpensTurnsAndPicks) {
 TEST(FormSession, ADateThatIsEmptiedKeepsItsSeparators) {
   TypedDisplay display;
   display.Text(u"31").Text(u"02").Text(u"2024").Key(kVkTab).Then([&] {
-    EXPECT_EQ(display.shown.Row(2), "▸ d         ┃  ┃ / │  │ / │    │");
+    EXPECT_EQ(display.shown.Row(2), "▸ d         ┃  ┃ / │  │ / │    │  ✗ A data informada é inválida!");
     EXPECT_TRUE(display.Shows("✗ A data informada é inválida!"));
   });
   EXPECT_EQ(display.Run(R"([{"name":"d","mask":"gbData","set":{"PreencherDatasInvalidasComDataDeHoje":false}},

@@ -145,6 +145,11 @@ std::vector<PlacedPiece> Arrange(const std::vector<Piece>& pieces, int width) {
   return placed;
 }
 
+int WidthOf(kit::FieldParts& parts, int width) {
+  const std::vector<PlacedPiece> placed = Arrange(PiecesOf(parts), width);
+  return placed.empty() ? 0 : placed.back().x + placed.back().width + 1;
+}
+
 void DrawField(Screen& screen, Point at, int width, memory::Form& form, kit::FieldParts& parts,
                const std::vector<std::u16string>& placeholders) {
   std::size_t entry = 0;

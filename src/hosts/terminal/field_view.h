@@ -24,6 +24,9 @@ struct PlacedPiece {
 // no natural width. Only a width that has no cell for each entry is overstepped.
 std::vector<PlacedPiece> Arrange(const std::vector<Piece>& pieces, int width);
 
+// Cells that a field takes of `width`.
+int WidthOf(kit::FieldParts& parts, int width);
+
 // In `width` cells from `at` on. Each box shows the part of its text around the caret, and in place of an
 // empty text its placeholder; the entry with the focus gives the screen its caret.
 void DrawField(Screen& screen, Point at, int width, memory::Form& form, kit::FieldParts& parts,

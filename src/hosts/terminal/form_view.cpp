@@ -4,6 +4,7 @@
 
 #include "hosts/terminal/field_view.h"
 #include "hosts/terminal/foot_line.h"
+#include "hosts/terminal/message_box.h"
 
 namespace gabarito::terminal {
 namespace {
@@ -38,7 +39,7 @@ FormView::Columns FormView::ColumnsFor(int width) const {
   return {true, kBefore, kBefore, room, std::min(room, kFieldWidth)};
 }
 
-std::vector<FormView::Row> FormView::RowsFor(const Columns& columns) const {
+std::vector<FormView::Row> FormView::RowsFor(const Columns& columns, int width) const {
   std::vector<Row> rows;
   const auto& lines = model_.Lines();
   for (std::size_t i = 0; i < lines.size(); ++i) {
@@ -46,17 +47,34 @@ std::vector<FormView::Row> FormView::RowsFor(const Columns& columns) const {
       if (!rows.empty()) rows.push_back({Row::Kind::kBlank, i, {}});
       rows.push_back({Row::Kind::kHeading, i, ToCells(lines[i].spec.heading)});
     }
-    if (columns.stacked) rows.push_back({Row::Kind::kLabel, i, LabelOf(lines[i])});
-    rows.push_back({Row::Kind::kField, i, LabelOf(lines[i])});
-    const std::u16string notice = notices_.At(i);
-    if (notice.empty()) continue;
-    for (std::u32string& text : Wrapped(ToCells(notice), columns.width)) {
-      rows.push_back({Row::Kind::kNotice, i, std::move(text)});
-    }
+    AppendField(rows, i, columns, width);
   }
   rows.push_back({Row::Kind::kBlank, lines.size(), {}});
   rows.push_back({Row::Kind::kFinish, lines.size(), U"[ " + ToCells(model_.Spec().finish) + U" ]"});
   return rows;
+}
+
+// What a field has said stands beside it where there is room for it, so that nothing below moves, and else
+// under it.
+void FormView::AppendField(std::vector<Row>& rows, std::size_t line, const Columns& columns,
+                           int width) const {
+  const FormModel::Line& field = model_.Lines()[line];
+  const std::u32string label = LabelOf(field);
+  const std::u32string notice = ToCells(notices_.At(line));
+  const std::size_t first = rows.size();
+  if (columns.stacked) rows.push_back({Row::Kind::kLabel, line, label});
+  rows.push_back({Row::Kind::kField, line, label});
+  if (notice.empty()) return;
+  const int end = columns.stacked ? columns.label + static_cast<int>(label.size())
+                                  : columns.boxes + WidthOf(field.field->Parts(), columns.width);
+  if (end + kBehind + static_cast<int>(notice.size()) + kMargin <= width) {
+    rows[first].notice = notice;
+    rows[first].notice_at = end + kBehind;
+    return;
+  }
+  for (std::u32string& text : Wrapped(notice, width - columns.boxes - kMargin)) {
+    rows.push_back({Row::Kind::kNotice, line, std::move(text)});
+  }
 }
 
 // As few rows as it takes to show all of what has the focus, so that the form stands still while a person
@@ -114,6 +132,7 @@ void FormView::DrawRow(Screen& screen, int y, const Row& row, const Columns& col
   Grid& grid = screen.grid;
   const Style plain{kButtonFace}, strong{kButtonFace, kStrong};
   const bool focused = row.line == model_.FocusedLine();
+  grid.Put(row.notice_at, y, row.notice, {kButtonFace, kAlarm});
   switch (row.kind) {
     case Row::Kind::kBlank:
       return;
@@ -161,7 +180,7 @@ Screen FormView::Draw(int width, int height) {
   DrawFrame(screen);
   const Rows body{height < kRoomy ? 1 : 2, height - kFootRows};
   const Columns columns = ColumnsFor(width);
-  const std::vector<Row> rows = RowsFor(columns);
+  const std::vector<Row> rows = RowsFor(columns, width);
   Scroll(rows, body.Count());
   Rows focused{body.end, body.first};
   for (int y = body.first; y < body.end; ++y) {

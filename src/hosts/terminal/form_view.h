@@ -36,6 +36,8 @@ class FormView {
     Kind kind;
     std::size_t line;  // the field; Lines().size() for the button
     std::u32string text;
+    std::u32string notice = {};  // beside it
+    int notice_at = 0;           // column
   };
   // Where the parts of a row stand. A narrow window has the labels above their fields.
   struct Columns {
@@ -45,7 +47,8 @@ class FormView {
   };
 
   Columns ColumnsFor(int width) const;
-  std::vector<Row> RowsFor(const Columns& columns) const;
+  std::vector<Row> RowsFor(const Columns& columns, int width) const;
+  void AppendField(std::vector<Row>& rows, std::size_t line, const Columns& columns, int width) const;
   void Scroll(const std::vector<Row>& rows, int visible);
   void DrawFrame(Screen& screen);
   void DrawRow(Screen& screen, int y, const Row& row, const Columns& columns);

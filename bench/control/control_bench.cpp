@@ -77,7 +77,7 @@ void WriteAndRead(benchmark::State& state, std::int32_t mask, std::u16string_vie
 
 void Layout(benchmark::State& state, std::int32_t mask) {
   Bench bench(mask);
-  for (auto _ : state) bench.field->UserControl_Resize();
+  for (auto _ : state) bench.field.Events().UserControl_Resize();
 }
 
 void Key(benchmark::State& state, std::int32_t mask, char key) {

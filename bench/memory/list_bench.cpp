@@ -37,7 +37,7 @@ struct Cities {
 
 void Fill(benchmark::State& state) {
   Cities cities;
-  for (auto _ : state) cities.field->UserControl_Resize();
+  for (auto _ : state) cities.field.Events().UserControl_Resize();
 }
 BENCHMARK(Fill);
 

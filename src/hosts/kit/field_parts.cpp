@@ -45,6 +45,9 @@ bool InputChildModel<Interface, Line>::CanTakeFocus() const {
 }
 
 template class ChildModel<Label>;
+template class ChildModel<TextBox>;
+template class ChildModel<ComboBox>;
+template class ChildModel<MaskEdBox>;
 template class InputChildModel<TextBox, TextLine>;
 template class InputChildModel<ComboBox, TextLine>;
 template class InputChildModel<MaskEdBox, MaskedEdit>;

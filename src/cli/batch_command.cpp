@@ -7,6 +7,7 @@
 
 #include "cli/commands.h"
 #include "cli/line_reader.h"
+#include "cli/load_check.h"
 #include "cli/names.h"
 #include "cli/one_line.h"
 #include "cli/output_buffer.h"
@@ -17,8 +18,6 @@
 namespace gabarito::cli {
 namespace {
 
-// Said by the program, not by the field, which is silent when it loads 31/02/2024 as three empty boxes.
-constexpr std::u16string_view kNotTaken = u"Valor não aceito pela máscara.";
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 constexpr std::string_view kReplacement = "\xEF\xBF\xBD";
 
@@ -53,8 +52,6 @@ void AppendColumn(std::string_view text, std::string& out) {
     text.remove_prefix(tab + 1);
   }
 }
-
-bool IsBlank(std::string_view line) { return line.find_first_not_of(" \t") == std::string_view::npos; }
 
 // A surrogate counts half of the four bytes that its pair takes.
 std::size_t Utf8Length(std::u16string_view text) {
@@ -105,12 +102,10 @@ class LineCheck {
     out.push_back('\t');
     messages_.Forget();
     field_->Text(text_);
-    // Asked between load and check, since the check fills boxes by itself: today under gbDataAtual.
     const bool loaded = !field_->MostraVazio();
     const std::u16string value = field_->Text();
     if (messages_.Joined().empty()) {
-      // "#" is how an empty interval reads: a value that comes back as it went in has lost nothing.
-      if ((loaded && !value.empty()) || value == text_ || IsBlank(line)) {
+      if (!NothingTaken(text_, loaded, value)) {
         AppendValue(value, out);
         out.append("\t\n");
         return;

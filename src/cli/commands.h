@@ -30,7 +30,7 @@ struct FieldCommandOptions {
 
 // Loads the value, plays the keys into the field, leaves it, and writes the value that it gives. A message
 // box, which its default button answers, becomes a line "title: text" on `err`; one that comes again at once
-// is not told again.
+// is not told again. A text of which the field takes nothing, without a word, is told there too.
 int RunField(const FieldCommandOptions& options, std::ostream& out, std::ostream& err);
 
 struct BatchOptions {

@@ -2,12 +2,14 @@
 #include <utility>
 
 #include "cli/commands.h"
+#include "cli/load_check.h"
 #include "cli/names.h"
 #include "cli/one_line.h"
 #include "gabarito/keyinject/send_input.h"
 #include "hosts/kit/system_clock.h"
 #include "hosts/memory/form.h"
 #include "hosts/memory/plain_box.h"
+#include "script/key_check.h"
 
 namespace gabarito::cli {
 namespace {
@@ -51,6 +53,8 @@ int RunField(const FieldCommandOptions& options, std::ostream& out, std::ostream
   if (options.text) text = Decoded(*options.text, "--text");
   if (options.keys) keys = Decoded(*options.keys, "--keys");
 
+  if (const auto remark = script::UnknownKeyNames(keys)) err << "gabarito field: --keys: " << *remark << '\n';
+
   memory::Form form;
   BoxesAsLines boxes(err);
   form.Model().recorder = &boxes;
@@ -60,16 +64,24 @@ int RunField(const FieldCommandOptions& options, std::ostream& out, std::ostream
   field.Create();
   Apply(options.field, *field);
 
-  if (options.text) field->Text(text);
+  bool loaded = false;
+  if (options.text) {
+    field->Text(text);
+    loaded = !field->MostraVazio();
+  }
   // By way of the surface, as a host gives the focus: the field picks the child that is on show.
   form.SetFocus(*field.Surface());
   SendKeyString(form.Model().keyboard, form.System().kernel, form.Model().dialogs, keys, true);
   form.Run();
   // Raises the check. A refusal takes the focus back into the field, which changes nothing for what follows.
   form.SetFocus(behind);
-  out << ToUtf8(field->Text()) << '\n';
+  const std::u16string value = field->Text();
+  out << ToUtf8(value) << '\n';
   form.Model().recorder = nullptr;
-  return boxes.Shown() ? kRefused : kNothingRefused;
+  if (boxes.Shown()) return kRefused;
+  if (!options.text || !NothingTaken(text, loaded, value)) return kNothingRefused;
+  err << ToUtf8(kNotTaken) << '\n';
+  return kRefused;
 }
 
 }  // namespace gabarito::cli

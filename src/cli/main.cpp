@@ -31,6 +31,9 @@ std::string Version() {
   return std::to_string(App::Major) + "." + std::to_string(App::Minor) + "." + std::to_string(App::Revision);
 }
 
+constexpr std::string_view kExitStatuses =
+    "Exit status: 0 nothing was refused, 1 the field refused something, 2 a usage error.";
+
 // "Properties: MaxLength, ComboItens, ...", as they are published.
 std::string PropertyList() {
   std::string list;
@@ -46,13 +49,15 @@ std::string PropertyList() {
 
 // A value belongs to one --set alone: the parser would otherwise take FILE for one more of its values.
 void AddFieldOptions(CLI::App& command, FieldOptions& options) {
-  command.add_option("-m,--mask", options.mask, "Kind: a name that 'gabarito masks' lists, or a number")
+  command
+      .add_option("-m,--mask", options.mask,
+                  "Kind: a name that 'gabarito masks' lists, in any case and with or without gb, or a number")
       ->required()
       ->type_name("KIND");
   command.add_option("-s,--set", options.sets, "Sets a property; may be given several times")
       ->type_name("NAME=VALUE")
       ->allow_extra_args(false);
-  command.footer(PropertyList());
+  command.footer(PropertyList() + "\n\n" + std::string(kExitStatuses));
 }
 
 // Standard output is written to the end, or the command has failed.
@@ -163,11 +168,25 @@ void AddForm(CLI::App& program, Action& action) {
   });
 }
 
+// The parser would say that a command is required, not which word it does not know.
+void RefuseUnknownCommand(const CLI::App& program, int argc, char** argv) {
+  const std::string_view word = argc > 1 ? argv[1] : "-";
+  if (word.starts_with('-')) return;
+  std::vector<std::string> names;
+  for (const CLI::App* command : program.get_subcommands({})) names.push_back(command->get_name());
+  if (std::find(names.begin(), names.end(), word) != names.end()) return;
+  std::string list;
+  for (const std::string& name : names) list.append(list.empty() ? "" : ", ").append(name);
+  const std::vector<std::string_view> commands(names.begin(), names.end());
+  throw UsageError("unknown command '" + std::string(word) + "'" + DidYouMean(word, commands) +
+                   "; the commands are " + list);
+}
+
 int Run(int argc, char** argv) {
   CLI::App program("Gabarito: one input field for Brazilian forms that is 23 kinds of field.", "gabarito");
-  program.set_version_flag("--version", Version(), "Print the version and exit");
+  program.set_version_flag("-V,--version", Version(), "Print the version and exit");
   program.require_subcommand(1);
-  program.footer("Exit status: 0 nothing was refused, 1 the field refused something, 2 a usage error.");
+  program.footer(std::string(kExitStatuses));
   Action action;
   AddMasks(program, action);
   AddField(program, action);
@@ -177,6 +196,7 @@ int Run(int argc, char** argv) {
 
   int status = kNothingRefused;
   try {
+    RefuseUnknownCommand(program, argc, argv);
     program.parse(Arguments(argc, argv));
     status = action();
   } catch (const CLI::Success& asked) {  // --help and --version

@@ -6,6 +6,7 @@
 #include "cli/names.h"
 #include "gabarito/control/especie.h"
 #include "gabarito/control/interface.h"
+#include "script/json.h"
 
 namespace gabarito::cli {
 namespace {

@@ -3,6 +3,7 @@
 #define CLI_NAMES_H
 
 #include "hosts/kit/utf8.h"
+#include "script/nearest.h"
 #include "script/properties.h"
 
 namespace gabarito::cli {
@@ -11,6 +12,7 @@ using kit::AppendUtf16;
 using kit::AppendUtf8;
 using kit::ToUtf16;
 using kit::ToUtf8;
+using script::DidYouMean;
 using script::GetProperty;
 using script::Json;
 using script::MaskFromText;

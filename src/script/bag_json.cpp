@@ -4,6 +4,7 @@
 #include <limits>
 
 #include "hosts/kit/utf8.h"
+#include "script/json.h"
 
 namespace gabarito::script {
 namespace {
@@ -60,7 +61,7 @@ kit::MemoryBag BagFromJson(std::string_view json) {
   if (!parsed.is_object()) throw UsageError("the bag is not a JSON object");
   kit::MemoryBag bag;
   for (const auto& [key, value] : parsed.items()) {
-    bag.WriteProperty(kit::ToUtf16(key).value_or(u""), ValueFromJson(key, value), Empty{});
+    bag.Append(kit::ToUtf16(key).value_or(u""), ValueFromJson(key, value));
   }
   return bag;
 }

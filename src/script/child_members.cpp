@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "hosts/kit/utf8.h"
+#include "script/json.h"
 
 namespace gabarito::script {
 

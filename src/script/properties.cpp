@@ -1,12 +1,16 @@
 #include "script/properties.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <limits>
+#include <vector>
 
 #include "gabarito/control/especie.h"
 #include "gabarito/control/interface.h"
 #include "hosts/kit/utf8.h"
+#include "script/json.h"
+#include "script/nearest.h"
 
 namespace gabarito::script {
 
@@ -154,16 +158,34 @@ std::string_view TypeOf(std::string_view name) {
   return "string";
 }
 
+bool SameLetters(std::string_view a, std::string_view b) {
+  const auto small = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; };
+  return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                    [&](char x, char y) { return small(x) == small(y); });
+}
+
+// By its name in any case, with "gb" in front or without.
+const Especie* KindOf(std::string_view name) {
+  for (const Especie& kind : Especies()) {
+    if (SameLetters(name, kind.nome) || SameLetters(name, kind.nome.substr(2))) return &kind;
+  }
+  return nullptr;
+}
+
 }  // namespace
 
 std::int32_t MaskFromText(std::string_view text) {
-  if (const Especie* kind = EspecieDeNome(text)) return kind->valor;
+  if (const Especie* kind = KindOf(text)) return kind->valor;
   try {
     return static_cast<std::int32_t>(NumberFromText(text, "Mask", std::numeric_limits<std::int32_t>::min(),
                                                     std::numeric_limits<std::int32_t>::max()));
   } catch (const UsageError&) {
+    std::vector<std::string_view> names;
+    for (const Especie& kind : Especies()) names.push_back(kind.nome);
+    const bool prefixed = SameLetters(text.substr(0, 2), "gb");
     throw UsageError("unknown mask " + Quoted(text) +
-                     ": take a name that 'gabarito masks' lists, or a number");
+                     ": take a name that 'gabarito masks' lists, or a number" +
+                     DidYouMean((prefixed ? "" : "gb") + std::string(text), names));
   }
 }
 

@@ -3,24 +3,17 @@
 #define SCRIPT_PROPERTIES_H
 
 #include <cstdint>
-#include <nlohmann/json.hpp>
-#include <stdexcept>
 #include <string>
 #include <string_view>
 
 #include "gabarito/control/gabarito.h"
+#include "script/json_fwd.h"
+#include "script/usage_error.h"
 
 namespace gabarito::script {
 
-using Json = nlohmann::ordered_json;
-
-// The person who typed a command got it wrong: an unknown name, a value of the wrong type or out of range.
-// what() says so in one line.
-struct UsageError : std::runtime_error {
-  using std::runtime_error::runtime_error;
-};
-
-// The value of Mask for a name ("gbCPF") or a number. UsageError on any other text.
+// The value of Mask for a name ("gbCPF"), in any case and with or without "gb", or for a number. UsageError
+// on any other text, with the name that was probably meant.
 std::int32_t MaskFromText(std::string_view text);
 
 // Sets a property. Numbers, booleans and texts as JSON; `Mask` a name or a number; `Font` an object with Name

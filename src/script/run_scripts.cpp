@@ -6,6 +6,7 @@
 #include <system_error>
 #include <utility>
 
+#include "script/json.h"
 #include "script/script.h"
 
 namespace gabarito::script {
@@ -56,7 +57,8 @@ bool Play(const File& file, const Run& run) {
   std::string line;
   bool first = true;
   std::unique_ptr<Script> script;
-  for (std::size_t number = 1; std::getline(file.lines, line); ++number) {
+  std::size_t number = 1;
+  for (; std::getline(file.lines, line); ++number) {
     if (std::exchange(first, false)) {
       if (line.starts_with(kByteOrderMark)) line.erase(0, kByteOrderMark.size());
       if (!IsFor(line, stage->Name())) {
@@ -65,6 +67,9 @@ bool Play(const File& file, const Run& run) {
       }
       if (run.named) run.out << Json({{"file", file.name}}).dump() << '\n';
       script = std::make_unique<Script>(*stage, run.out);
+      script->onRemark = [&](const std::string& remark) {
+        told() << "line " << number << ": " << remark << '\n';
+      };
     }
     try {
       script->Line(line);

@@ -10,6 +10,8 @@
 #include "hosts/kit/utf8.h"
 #include "script/bag_json.h"
 #include "script/child_members.h"
+#include "script/json.h"
+#include "script/key_check.h"
 #include "script/properties.h"
 
 namespace gabarito::script {
@@ -250,7 +252,9 @@ void Script::Key(std::string_view rest) {
 }
 
 void Script::Keys(std::string_view rest) {
-  SendKeyString(Form().keyboard, stage_.Services().kernel, Form().dialogs, TextFromText(rest), true);
+  const std::u16string keys = TextFromText(rest);
+  if (const auto remark = UnknownKeyNames(keys); remark && onRemark) onRemark(*remark);
+  SendKeyString(Form().keyboard, stage_.Services().kernel, Form().dialogs, keys, true);
   stage_.Run();
 }
 

@@ -25,6 +25,9 @@ class Script {
   // Carries one line out. Throws UsageError, with nothing carried out, on a line that is not understood.
   void Line(std::string_view line);
 
+  // Takes what a person should know about a line that was carried out all the same; not part of what happens.
+  std::function<void(const std::string& remark)> onRemark;
+
   // Writes an error that has reached the host between two lines.
   void Error(const Erro& erro) { transcript_.Error(erro); }
 

@@ -20,7 +20,7 @@ TEST(FormList, RefusesWhatIsNoneAndSaysWhere) {
       {"[{\"name\":\"\xFF\"}]", "not valid JSON"},
       {"{}", "no field"}, {R"({"campos":[]})", "unknown key \"campos\" (a form has title, finish"},
       {R"({"titel":"x"})", "unknown key \"titel\"; did you mean title?"}, {"[]", "no field"},
-      {"[1]", "field 1: a field is an object"}, {R"([{"mask":"gbcpf"}])", "field 1: unknown mask 'gbcpf'"},
+      {"[1]", "field 1: a field is an object"}, {R"([{"mask":"gbcfp"}])", "field 1: unknown mask 'gbcfp'"},
       {R"([{"mask":100},{"name":"b"}])", "field 2 (\"b\"): mask is missing"},
       {R"([{"mask":1.5}])", "field 1: mask takes"}, {R"([{"mask":2147483648}])", "field 1: mask takes"},
       {R"([{"mask":100,"name":"a"},{"mask":100},{"mask":100,"label":"a"}])",

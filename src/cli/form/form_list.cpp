@@ -11,8 +11,8 @@
 #include <system_error>
 
 #include "cli/names.h"
-#include "cli/nearest.h"
 #include "gabarito/platform/erro.h"
+#include "script/nearest.h"
 
 namespace gabarito::cli {
 namespace {

@@ -17,6 +17,7 @@
 
 #include "cli/names.h"
 #include "hosts/terminal/form_spec.h"
+#include "script/json.h"
 
 namespace gabarito::cli {
 

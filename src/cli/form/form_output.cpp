@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "cli/names.h"
+#include "script/json.h"
 
 namespace gabarito::cli {
 namespace {

@@ -136,11 +136,4 @@ const Especie& EspecieDe(std::int32_t mascara) {
   return posicao < 0 ? kPadrao : kEspecies[posicao];
 }
 
-const Especie* EspecieDeNome(std::string_view nome) {
-  for (const Especie& especie : kEspecies) {
-    if (especie.nome == nome) return &especie;
-  }
-  return nullptr;
-}
-
 }  // namespace gabarito

@@ -35,9 +35,6 @@ std::span<const Especie> Especies();
 // and the keys of gbNenhuma, and a load that tells of the unknown mask.
 const Especie& EspecieDe(std::int32_t mascara);
 
-// The row with this name, or null.
-const Especie* EspecieDeNome(std::string_view nome);
-
 }  // namespace gabarito
 
 #endif  // GABARITO_CONTROL_ESPECIE_H

@@ -17,6 +17,9 @@ class MemoryBag final : public PropertyBag {
   // Storing a key again replaces its value in its place.
   void WriteProperty(std::u16string_view key, const Variant& value, const Variant& absent) override;
 
+  // The same for a key that is not stored yet, without looking for it.
+  void Append(std::u16string_view key, const Variant& value) { values_.emplace_back(key, value); }
+
   // The stored keys in the order of writing.
   const std::vector<std::pair<std::u16string, Variant>>& Values() const { return values_; }
 

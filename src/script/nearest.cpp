@@ -1,27 +1,29 @@
-#include "cli/nearest.h"
+#include "script/nearest.h"
 
 #include <algorithm>
 #include <vector>
 
-namespace gabarito::cli {
+namespace gabarito::script {
 namespace {
 
 constexpr std::size_t kLongest = 64;  // no word of the program is longer
 
 char Small(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
 
-// Insertions, deletions and replacements, row by row of the usual table.
+// Insertions, deletions, replacements and swaps of neighbours, row by row of the usual table.
 std::size_t Changes(std::string_view a, std::string_view b) {
-  std::vector<std::size_t> row(b.size() + 1);
+  std::vector<std::size_t> before(b.size() + 1), row(b.size() + 1), next(b.size() + 1);
   for (std::size_t j = 0; j <= b.size(); ++j) row[j] = j;
+  const auto same = [&](std::size_t i, std::size_t j) { return Small(a[i - 1]) == Small(b[j - 1]); };
   for (std::size_t i = 1; i <= a.size(); ++i) {
-    std::size_t diagonal = row[0];
-    row[0] = i;
+    next[0] = i;
     for (std::size_t j = 1; j <= b.size(); ++j) {
-      const std::size_t replaced = diagonal + (Small(a[i - 1]) == Small(b[j - 1]) ? 0 : 1);
-      diagonal = row[j];
-      row[j] = std::min({replaced, row[j] + 1, row[j - 1] + 1});
+      next[j] = std::min({row[j - 1] + (same(i, j) ? 0 : 1), row[j] + 1, next[j - 1] + 1});
+      const bool swapped = i > 1 && j > 1 && same(i, j - 1) && same(i - 1, j);
+      if (swapped) next[j] = std::min(next[j], before[j - 2] + 1);
     }
+    before.swap(row);
+    row.swap(next);
   }
   return row[b.size()];
 }
@@ -47,4 +49,4 @@ std::string DidYouMean(std::string_view word, std::span<const std::string_view> 
   return nearest.empty() ? std::string() : "; did you mean " + std::string(nearest) + "?";
 }
 
-}  // namespace gabarito::cli
+}  // namespace gabarito::script

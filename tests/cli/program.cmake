@@ -1,0 +1,26 @@
+# cmake -D PROGRAM=... -P program.cmake: what the command line itself answers. A row is the arguments, the exit status
+# and a pattern of what is written, parted by "|".
+cmake_minimum_required(VERSION 3.25)
+
+set(rows
+  "bogus|2|^gabarito: unknown command 'bogus'. the commands are masks, field, batch, script, form\n$"
+  "bach|2|did you mean batch"
+  "-V|0|^[0-9]+\\.[0-9]+\\.[0-9]+\n$"
+  "--version|0|^[0-9]+\\.[0-9]+\\.[0-9]+\n$"
+  "field --help|0|Exit status: 0 nothing was refused, 1 the field refused something, 2 a usage error"
+  "batch --help|0|Exit status: 0 nothing was refused, 1 the field refused something, 2 a usage error"
+  "field -m cnjp|2|unknown mask 'cnjp'.*did you mean gbCNPJ"
+  "field -m gbdta|2|did you mean gbData"
+  "field -m data --keys {TABB}{A}{tab}{TABB}({X})|0|no key is called {TABB}: its first character is typed")
+
+foreach(row IN LISTS rows)
+  string(REGEX MATCH "^(.*)\\|([0-9]+)\\|(.*)$" whole "${row}")
+  set(line "${CMAKE_MATCH_1}")
+  set(status ${CMAKE_MATCH_2})
+  set(pattern "${CMAKE_MATCH_3}")
+  separate_arguments(arguments UNIX_COMMAND "${line}")
+  execute_process(COMMAND ${PROGRAM} ${arguments} RESULT_VARIABLE ended OUTPUT_VARIABLE text ERROR_VARIABLE text)
+  if(NOT ended STREQUAL status OR NOT text MATCHES "${pattern}")
+    message(SEND_ERROR "gabarito ${line}\nends with ${ended} and writes\n${text}")
+  endif()
+endforeach()

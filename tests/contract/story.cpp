@@ -4,7 +4,7 @@
 #include <fstream>
 #include <sstream>
 
-#include "script/properties.h"
+#include "script/json.h"
 
 namespace gabarito::script {
 namespace {

@@ -37,7 +37,7 @@ _gabarito() {
   esac
   local words=--help
   case $command in
-    '') words='masks field batch script form --help --version' ;;
+    '') words='masks field batch script form --help --version -V' ;;
     masks) words='--json --help' ;;
     field) words='--mask --set --text --keys --help' ;;
     batch) words='--mask --set --help' ;;

@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <filesystem>
 #include <fstream>
@@ -11,7 +12,9 @@ namespace gabarito::script {
 namespace {
 
 struct Scripts : testing::Test {
-  std::filesystem::path folder = std::filesystem::path(testing::TempDir()) / "gabarito_scripts";
+  // One for each test: ctest runs them at the same time.
+  std::filesystem::path folder =
+      std::filesystem::path(testing::TempDir()) / ("gabarito_scripts_" + std::to_string(getpid()));
   Scripts() { std::filesystem::create_directories(folder); }
   ~Scripts() override { std::filesystem::remove_all(folder); }
 

@@ -1,6 +1,9 @@
 // A person's way through a form.
 #include <gtest/gtest.h>
 
+#include <iterator>
+#include <random>
+
 #include "typed_display.h"
 
 namespace gabarito::terminal {
@@ -192,6 +195,76 @@ TEST(FormSession, AValueToStartFromThatIsNotTakenIsTold) {
   TypedDisplay display;
   display.Then([&] { EXPECT_TRUE(display.Shows("✗ valor inicial não aceito: 31/02/2024")); });
   EXPECT_EQ(display.Finish().Run(R"([{"name":"d","mask":"gbData","default":"31/02/2024"}])"), "d=-;");
+}
+
+// Anything in any order, in windows of any size.
+class RestlessPerson final : public Display {
+ public:
+  explicit RestlessPerson(unsigned seed) : random_(seed) {}
+
+  int Width() const override { return width_; }
+  int Height() const override { return height_; }
+  void Show(const Screen& screen) override {
+    const Grid& grid = screen.grid;
+    EXPECT_TRUE(grid.Width() == width_ && grid.Height() == height_);
+    if (grid.caret) {
+      EXPECT_TRUE(grid.caret->x >= 0 && grid.caret->x < width_ && grid.caret->y >= 0 &&
+                  grid.caret->y < height_);
+    }
+  }
+  void Beep() override {}
+  Input Next(std::optional<std::chrono::milliseconds>) override {
+    if (++steps_ > 3000) throw Interrupted{SIGTERM};
+    constexpr std::int16_t kKeys[] = {8, 9, 9, 13, 13, 33, 34, 35, 36, 37, 38, 39, 40, 46, 115};
+    constexpr std::u16string_view kTyped = u"0123456789/:-.,ab \u00e9\x01\x05\x0b\x15\x17\x16\x18S";
+    switch (Below(12)) {
+      case 0:
+        return {.kind = Input::Kind::kClick, .at = {Below(width_ + 2), Below(height_ + 2)}};
+      case 1:
+        return {.kind = Input::Kind::kWheel, .turns = Below(2) * 2 - 1};
+      case 2:
+        return {.kind = Input::Kind::kPaste,
+                .text = std::u16string(kTyped.substr(static_cast<std::size_t>(Below(12))))};
+      case 3:
+        return {.kind = Input::Kind::kWordStep,
+                .shift = static_cast<std::int16_t>(Below(2)),
+                .turns = Below(2) * 2 - 1};
+      case 4:
+        return {.kind = Below(9) == 0 ? Input::Kind::kFinish : Input::Kind::kHelp};
+      case 5:
+        width_ = 1 + Below(90);
+        height_ = 1 + Below(30);
+        return {};
+      case 6:
+      case 7:
+      case 8:
+        return {.kind = Input::Kind::kKey,
+                .vk = kKeys[Below(static_cast<int>(std::size(kKeys)))],
+                .shift = static_cast<std::int16_t>(Below(4) == 0 ? 1 : 0)};
+      default:
+        return {.kind = Input::Kind::kCharacter,
+                .character = kTyped[static_cast<std::size_t>(Below(static_cast<int>(kTyped.size())))]};
+    }
+  }
+
+ private:
+  int Below(int end) { return static_cast<int>(random_() % static_cast<unsigned>(end)); }
+
+  std::mt19937 random_;
+  int width_ = 80, height_ = 24;
+  int steps_ = 0;
+};
+
+TEST(FormSession, StandsWhateverComesInWhateverOrder) {
+  for (unsigned seed = 1; seed <= 4; ++seed) {
+    FormModel model(cli::ForTerminal(cli::BuiltInForm()), Now);
+    RestlessPerson person(seed);
+    try {
+      FormSession(model, person).Run();
+    } catch (const Interrupted& end) {
+      EXPECT_EQ(end.signal, SIGTERM);
+    }
+  }
 }
 
 }  // namespace

@@ -79,7 +79,8 @@ bool TypeThrough(InputModel& child, std::u16string_view text) {
   const auto kept = static_cast<std::int64_t>(box.Text().size()) - box.SelLength();
   if (box.Limit() == 0 || kept + static_cast<std::int64_t>(text.size()) <= box.Limit()) return false;
   std::u16string typed(text);
-  std::erase_if(typed, [](char16_t c) { return c == u'\r' || c == u'\n' || c == u'\t'; });
+  // Typed, a Ctrl+V inside would paste it all again, without end.
+  std::erase_if(typed, [](char16_t c) { return c < u' '; });
   form.keyboard.PressLater(typed);
   return true;
 }

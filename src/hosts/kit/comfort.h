@@ -29,7 +29,7 @@ SeparatorStep StepOver(InputModel& child, char16_t character);
 
 // For a text about to be pasted or dropped into `child`. True when it has been taken over: the child belongs
 // to a field that shows several, and the text is longer than the room left in it, so it is typed instead, one
-// character after another (Keyboard::PressLater), line breaks and tabs left out.
+// character after another (Keyboard::PressLater), control characters left out.
 bool TypeThrough(InputModel& child, std::u16string_view text);
 
 // For a Tab of the queue. True when it has been carried out: a step back that the field has sent goes to the

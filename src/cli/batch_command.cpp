@@ -7,13 +7,12 @@
 
 #include "cli/commands.h"
 #include "cli/line_reader.h"
-#include "cli/load_check.h"
 #include "cli/names.h"
 #include "cli/one_line.h"
 #include "cli/output_buffer.h"
 #include "cli/progress_bar.h"
 #include "hosts/kit/system_clock.h"
-#include "hosts/memory/form.h"
+#include "hosts/memory/cleaner.h"
 
 namespace gabarito::cli {
 namespace {
@@ -24,13 +23,8 @@ constexpr std::string_view kReplacement = "\xEF\xBF\xBD";
 // Keeps the texts of the message boxes of one line. Several boxes of one line stand in its last column
 // together: the load and the check of 40,000 digits could each tell of their own. The buffer is kept, so a
 // file of refusals allocates no more than a file of good values.
-class Messages final : public kit::Recorder {
+class Messages {
  public:
-  void MsgBox(std::u16string_view text, std::int32_t, std::optional<std::u16string_view>,
-              std::int32_t) override {
-    Add(text);
-  }
-
   void Add(std::u16string_view text) {
     if (!joined_.empty()) joined_.append(u"; ");
     AppendOnOneLine(text, joined_);
@@ -81,11 +75,9 @@ std::string Repaired(std::string_view line) {
 // The field that all lines go through, and the output line of each.
 class LineCheck {
  public:
-  explicit LineCheck(const FieldOptions& options) : field_(form_.AddField("field")) {
-    form_.Model().recorder = &messages_;
-    form_.System().clock.Set(kit::SystemClock().Now());
-    field_.Create();
-    Apply(options, *field_);
+  explicit LineCheck(const FieldOptions& options)
+      : cleaner_([this](std::u16string_view text) { messages_.Add(text); }, kit::SystemClock().Now()) {
+    Apply(options, *cleaner_.ItsField());
   }
 
   // Appends the output line of `line`.
@@ -101,16 +93,10 @@ class LineCheck {
     AppendColumn(line, out);
     out.push_back('\t');
     messages_.Forget();
-    field_->Text(text_);
-    const bool loaded = !field_->MostraVazio();
-    const std::u16string value = field_->Text();
-    if (messages_.Joined().empty()) {
-      if (!NothingTaken(text_, loaded, value)) {
-        AppendValue(value, out);
-        out.append("\t\n");
-        return;
-      }
-      messages_.Add(kNotTaken);
+    if (cleaner_.Clean(text_, value_)) {
+      AppendValue(value_, out);
+      out.append("\t\n");
+      return;
     }
     refused_ = true;
     out.push_back('\t');
@@ -127,11 +113,9 @@ class LineCheck {
     AppendColumn(column_, out);
   }
 
-  // In front of the form, which keeps a pointer to it.
   Messages messages_;
-  memory::Form form_;
-  memory::Field& field_;
-  std::u16string text_;
+  memory::Cleaner cleaner_;
+  std::u16string text_, value_;
   std::string column_;
   std::uint64_t number_ = 0;
   bool refused_ = false;

@@ -2,12 +2,12 @@
 #include <utility>
 
 #include "cli/commands.h"
-#include "cli/load_check.h"
 #include "cli/names.h"
 #include "cli/one_line.h"
 #include "gabarito/keyinject/send_input.h"
 #include "hosts/kit/system_clock.h"
 #include "hosts/memory/form.h"
+#include "hosts/memory/load_check.h"
 #include "hosts/memory/plain_box.h"
 #include "script/key_check.h"
 
@@ -79,8 +79,8 @@ int RunField(const FieldCommandOptions& options, std::ostream& out, std::ostream
   out << ToUtf8(value) << '\n';
   form.Model().recorder = nullptr;
   if (boxes.Shown()) return kRefused;
-  if (!options.text || !NothingTaken(text, loaded, value)) return kNothingRefused;
-  err << ToUtf8(kNotTaken) << '\n';
+  if (!options.text || !memory::NothingTaken(text, loaded, value)) return kNothingRefused;
+  err << ToUtf8(memory::kNotTaken) << '\n';
   return kRefused;
 }
 

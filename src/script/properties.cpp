@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <cstdlib>
 #include <limits>
 #include <vector>
 
@@ -282,9 +283,12 @@ Json LengthToJson(float length) {
 
 float LengthFromText(std::string_view text) {
   constexpr float kMost = 1440e6F;
-  float length = 0;
-  const auto [end, fault] = std::from_chars(text.data(), text.data() + text.size(), length);
-  if (fault != std::errc() || end != text.data() + text.size() || !(std::fabs(length) <= kMost)) {
+  // Not from_chars: not every standard library has it for this type.
+  const std::string digits(text);
+  char* end = nullptr;
+  const float length = std::strtof(digits.c_str(), &end);
+  const bool decimal = !text.empty() && text.find_first_not_of("0123456789-.eE") == std::string_view::npos;
+  if (!decimal || end != digits.c_str() + digits.size() || !(std::fabs(length) <= kMost)) {
     throw UsageError("a length is a number of twips, not " + Quoted(text));
   }
   return length;

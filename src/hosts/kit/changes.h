@@ -28,6 +28,8 @@ class Changes {
   constexpr void Note(Change change) { bits_ |= static_cast<std::uint16_t>(change); }
   constexpr bool Has(Change change) const { return (bits_ & static_cast<std::uint16_t>(change)) != 0; }
   constexpr bool Any() const { return bits_ != 0; }
+  // The changes of Change, by their bits.
+  constexpr std::uint16_t Bits() const { return bits_; }
   // Everything: what a widget that is new to its model has to take over.
   static constexpr Changes All() {
     Changes all;

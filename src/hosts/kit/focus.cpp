@@ -6,7 +6,7 @@ namespace gabarito::kit {
 
 void Focus::Move(Focusable& receiver) {
   if (focused_ == &receiver && receiver.CanTakeFocus()) return;
-  if (!receiver.CanTakeFocus()) throw Erro(kInvalidProcedureCall);
+  if (frozen_ || !receiver.CanTakeFocus()) throw Erro(kInvalidProcedureCall);
   const std::uint64_t move = ++moves_;
   receiver_ = &receiver;
   // What has never been told that it has the focus is not told that it loses it: two fields that both refuse
@@ -29,7 +29,7 @@ void Focus::Move(Focusable& receiver) {
 }
 
 void Focus::Settle() {
-  if (!unsettled_) return;
+  if (!unsettled_ || frozen_) return;
   unsettled_ = false;
   if (focused_ == nullptr || focused_->CanTakeFocus()) return;
   Focusable* const surface = focused_->Owner().Surface();

@@ -31,6 +31,10 @@ class Focus {
   // A part has been hidden or disabled: the next Settle has something to look at.
   void Unsettle() { unsettled_ = true; }
 
+  // Frozen, it takes no move: each raises 5, as to a child that is disabled. For a look at a value that must
+  // not be noticed.
+  void Freeze(bool on) { frozen_ = on; }
+
   // The control is about to go: the focus leaves it without an event, and a move on its way to it or out of
   // it ends.
   void Forget(Control& control);
@@ -42,6 +46,7 @@ class Focus {
   bool entered_ = false;           // GotFocus of what has the focus has been raised
   std::uint64_t moves_ = 0;        // counts moves, to notice one that happened inside a handler
   bool unsettled_ = false;
+  bool frozen_ = false;
 };
 
 }  // namespace gabarito::kit

@@ -54,6 +54,19 @@ char16_t RaiseKeyPress(InputModel& child, char16_t character) {
   return taken;
 }
 
+void IntoModel(InputModel& child, const KeyEvent& event, std::u16string& clipboard) {
+  std::int16_t code = event.unicode != 0 ? kVkPacket : event.vk, shift = event.shift;
+  if (event.up) return child.KeyUp(code, shift);
+  child.KeyDown(code, shift);
+  if (!ActOnKeyDown(child, code, shift, clipboard)) return;
+  const char16_t character = child.Parts().form->keyboard.CharacterOf(event);
+  // The character goes to the entry that saw the key go down, if that is still on show.
+  if (character == 0 || !child.CanTakeFocus()) return;
+  const char16_t taken = RaiseKeyPress(child, character);
+  if (taken == kPaste && TypeThrough(child, clipboard)) return;
+  ActOnCharacter(child, taken, clipboard);
+}
+
 KeyAction KeyGoesDown(InputModel& child, std::int16_t vk, std::int16_t shift, std::u16string& clipboard) {
   std::int16_t code = vk, mask = shift;
   child.KeyDown(code, mask);

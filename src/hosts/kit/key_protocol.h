@@ -11,12 +11,16 @@
 #include <string_view>
 
 #include "hosts/kit/input_model.h"
+#include "hosts/kit/keyboard.h"
 
 namespace gabarito::kit {
 
 // Every character of every host goes through here: raises KeyPress and gives what the entry has to act on (0
 // nothing). With comfort on, a refused separator leads on to the next child instead of a beep.
 char16_t RaiseKeyPress(InputModel& child, char16_t character);
+
+// A key of the queue through the entry of the model itself, which holds the result.
+void IntoModel(InputModel& child, const KeyEvent& event, std::u16string& clipboard);
 
 // --- For native widgets
 // -------------------------------------------------------------------------------------------

@@ -21,7 +21,6 @@ class Form::OwnModel final : public kit::FormModel {
 
  private:
   void Deliver(const kit::KeyEvent& event) override;
-  void ToChild(kit::InputModel& child, std::int16_t vk, const kit::KeyEvent& event);
 
   Form& form_;
 };
@@ -36,24 +35,12 @@ void Form::OwnModel::Deliver(const kit::KeyEvent& event) {
   if (receiver == nullptr || !receiver->CanTakeFocus()) return;
   const auto held = receiver->Owner().Hold();
   const std::int16_t vk = event.unicode != 0 ? kVkPacket : event.vk;
-  if (kit::InputModel* const child = receiver->Input()) return ToChild(*child, vk, event);
+  if (kit::InputModel* const child = receiver->Input())
+    return kit::IntoModel(*child, event, form_.clipboard_);
   auto* const own = dynamic_cast<OwnControl*>(receiver);
   if (own == nullptr || event.up) return;
   own->KeyDown(vk, event.shift);
   if (const char16_t character = keyboard.CharacterOf(event)) own->Character(character);
-}
-
-void Form::OwnModel::ToChild(kit::InputModel& child, std::int16_t vk, const kit::KeyEvent& event) {
-  std::int16_t code = vk, shift = event.shift;
-  if (event.up) return child.KeyUp(code, shift);
-  child.KeyDown(code, shift);
-  if (!kit::ActOnKeyDown(child, code, shift, form_.clipboard_)) return;
-  const char16_t character = keyboard.CharacterOf(event);
-  // The character goes to the entry that saw the key go down, if that is still on show.
-  if (character == 0 || !child.CanTakeFocus()) return;
-  const char16_t taken = kit::RaiseKeyPress(child, character);
-  if (taken == kit::kPaste && kit::TypeThrough(child, form_.clipboard_)) return;
-  kit::ActOnCharacter(child, taken, form_.clipboard_);
 }
 
 Form::Form() : windows_(*this, [this](WindowHandle window) { return ComboOf(window); }) {

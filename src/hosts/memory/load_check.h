@@ -1,10 +1,10 @@
-// Whether a value that was loaded has left anything, for the commands that load values.
-#ifndef CLI_LOAD_CHECK_H
-#define CLI_LOAD_CHECK_H
+// Whether a value that was loaded has left anything, for programs that load values.
+#ifndef HOSTS_MEMORY_LOAD_CHECK_H
+#define HOSTS_MEMORY_LOAD_CHECK_H
 
 #include <string_view>
 
-namespace gabarito::cli {
+namespace gabarito::memory {
 
 // Said by the program, not by the field, which is silent when it loads 31/02/2024 as three empty boxes.
 inline constexpr std::u16string_view kNotTaken = u"Valor não aceito pela máscara.";
@@ -17,6 +17,6 @@ inline bool NothingTaken(std::u16string_view text, bool loaded, std::u16string_v
   return !(loaded && !value.empty()) && value != text && !blank;
 }
 
-}  // namespace gabarito::cli
+}  // namespace gabarito::memory
 
-#endif  // CLI_LOAD_CHECK_H
+#endif  // HOSTS_MEMORY_LOAD_CHECK_H

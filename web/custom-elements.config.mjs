@@ -1,0 +1,4 @@
+export default {
+  globs: ['src/element.ts'],
+  outdir: 'dist',
+};

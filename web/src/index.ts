@@ -1,0 +1,27 @@
+// `import 'gabarito'` defines the element <gabarito-field>. On a server, where there are no elements, nothing happens.
+
+import { GabaritoField } from './element.js';
+import { Page } from './page.js';
+
+let page: Promise<Page> | undefined;
+let address = () => new URL('./gabarito.wasm', import.meta.url);
+const table = () => new URL('./municipios.txt', address());
+
+// Where the module lies when it is not beside this script, as after a bundler that does not take it along. Before
+// the first field is on the page.
+export function setModuleAddress(url: string | URL): void {
+  address = () => new URL(url, document.baseURI);
+}
+
+GabaritoField.source = () => {
+  page ??= new Page(table).load(fetch(address()));
+  return page;
+};
+
+// Two copies of the package on one page: the first one serves all fields.
+if (globalThis.customElements && !customElements.get('gabarito-field')) {
+  customElements.define('gabarito-field', GabaritoField);
+}
+
+export { GabaritoField };
+export type { KeyUp, Refusal } from './element.js';

@@ -17,7 +17,7 @@ _gabarito() {
       ;;
     -s | --set)
       local properties
-      properties=$("$program" field --help 2>/dev/null | sed -n 's/^Properties: \(.*\)\.$/\1/p')
+      properties=$("$program" --lang en field --help 2>/dev/null | sed -n 's/^Properties: \(.*\)\.$/\1/p')
       mapfile -t COMPREPLY < <(compgen -S= -W "${properties//,/ }" -- "$word")
       compopt -o nospace
       return
@@ -29,6 +29,10 @@ _gabarito() {
       mapfile -t COMPREPLY < <(compgen -W 'json env tsv' -- "$word")
       return
       ;;
+    --lang)
+      mapfile -t COMPREPLY < <(compgen -W 'en pt' -- "$word")
+      return
+      ;;
     --fields)
       mapfile -t COMPREPLY < <(compgen -f -- "$word")
       compopt -o filenames
@@ -37,7 +41,7 @@ _gabarito() {
   esac
   local words=--help
   case $command in
-    '') words='masks field batch script form --help --version -V' ;;
+    '') words='masks field batch script form --help --lang --version -V' ;;
     masks) words='--json --help' ;;
     field) words='--mask --set --text --keys --help' ;;
     batch) words='--mask --set --help' ;;

@@ -10,6 +10,7 @@
 #include <string>
 
 #include "cli/field_options.h"
+#include "cli/language.h"
 
 namespace gabarito::cli {
 
@@ -19,8 +20,9 @@ inline constexpr int kFailed = 2;
 
 enum class ListForm { kText, kJson };
 
-// Lists the kinds; as JSON with the members of the public class.
-int RunMasks(ListForm form, std::ostream& out);
+// Lists the kinds, what they take in `language`; as JSON, which is the same in each, with the members of the
+// public class.
+int RunMasks(ListForm form, Language language, std::ostream& out);
 
 struct FieldCommandOptions {
   FieldOptions field;

@@ -17,6 +17,8 @@
 
 #include "cli/commands.h"
 #include "cli/form/form_command.h"
+#include "cli/help.h"
+#include "cli/language.h"
 #include "cli/memory_stage.h"
 #include "cli/names.h"
 
@@ -31,8 +33,10 @@ std::string Version() {
   return std::to_string(App::Major) + "." + std::to_string(App::Minor) + "." + std::to_string(App::Revision);
 }
 
-constexpr std::string_view kExitStatuses =
-    "Exit status: 0 nothing was refused, 1 the field refused something, 2 a usage error.";
+// The language of this run.
+Language language = Language::kEnglish;
+
+std::string T(std::string_view english) { return Told(english, language); }
 
 // "Properties: MaxLength, ComboItens, ...", as they are published.
 std::string PropertyList() {
@@ -41,10 +45,7 @@ std::string PropertyList() {
     if (member.tipo != TipoDeMembro::kPropriedade) continue;
     list.append(list.empty() ? "Properties: " : ", ").append(member.nome);
   }
-  return list +
-         ".\nTexts stand as they are or as a JSON string, numbers decimal or 0x..., ComboItens and Font as "
-         "JSON.\nThey are set in the order given and Mask after them, so that ComboItens, MaskText and "
-         "MaxLength\nare in place when the kind takes its shape; ComboListIndex and Text come behind Mask.";
+  return T(list) + ".\n" + T(kPropertyHelp) + "\n\n" + T(kExitStatuses);
 }
 
 // A value belongs to one --set alone: the parser would otherwise take FILE for one more of its values.
@@ -57,7 +58,7 @@ void AddFieldOptions(CLI::App& command, FieldOptions& options) {
   command.add_option("-s,--set", options.sets, "Sets a property; may be given several times")
       ->type_name("NAME=VALUE")
       ->allow_extra_args(false);
-  command.footer(PropertyList() + "\n\n" + std::string(kExitStatuses));
+  command.footer(PropertyList());
 }
 
 // Standard output is written to the end, or the command has failed.
@@ -93,6 +94,19 @@ int RunScriptFiles(const std::vector<std::string>& files) {
       "gabarito script");
 }
 
+constexpr std::string_view kLanguageOption = "--lang";
+
+// Known before the parser is told its texts: of --lang, or else of the environment.
+Language LanguageOfRun(int argc, char** argv) {
+  for (int i = 1; i < argc; ++i) {
+    const std::string_view argument = argv[i];
+    if (argument == "--") break;
+    if (argument == kLanguageOption && i + 1 < argc) return LanguageOf(argv[i + 1]);
+    if (argument.starts_with("--lang=")) return LanguageOf(argument.substr(kLanguageOption.size() + 1));
+  }
+  return LanguageOfEnvironment();
+}
+
 // What the command that was given does, once the whole line is understood.
 using Action = std::function<int()>;
 
@@ -101,7 +115,7 @@ void AddMasks(CLI::App& program, Action& action) {
   auto json = std::make_shared<bool>(false);
   command.add_flag("--json", *json, "As JSON, with the members of the public class");
   command.callback([json, &action] {
-    action = [json] { return RunMasks(*json ? ListForm::kJson : ListForm::kText, std::cout); };
+    action = [json] { return RunMasks(*json ? ListForm::kJson : ListForm::kText, language, std::cout); };
   });
 }
 
@@ -159,7 +173,7 @@ void AddForm(CLI::App& program, Action& action) {
   command.add_flag_function("--print0", print0, "The values alone, each ended by NUL")
       ->excludes(format)
       ->excludes(nulls);
-  command.footer(kFormHelp);
+  command.footer(T(kFormHelp));
   command.callback([options, &action] {
     if (options->output.nulls && options->output.format != FormFormat::kJson) {
       throw UsageError("form: --nulls goes with --format json alone");
@@ -168,9 +182,29 @@ void AddForm(CLI::App& program, Action& action) {
   });
 }
 
+// The texts that are given to the parser, and those that it brings along.
+void TellHelp(CLI::App& app) {
+  for (const char* const label : {"Usage", "OPTIONS", "SUBCOMMAND", "Positionals", "REQUIRED", "Excludes",
+                                  "KIND", "NAME=VALUE", "VALUE", "KEYSTRING", "FILE", "FORMAT", "LANGUAGE"}) {
+    app.get_formatter()->label(label, T(label));
+  }
+  app.description(T(app.get_description()));
+  app.group(T(app.get_group()));
+  app.footer(T(app.get_footer()));
+  for (CLI::Option* const option : app.get_options()) {
+    option->description(T(option->get_description()));
+    option->group(T(option->get_group()));
+  }
+  for (CLI::App* const command : app.get_subcommands({})) TellHelp(*command);
+}
+
 // The parser would say that a command is required, not which word it does not know.
 void RefuseUnknownCommand(const CLI::App& program, int argc, char** argv) {
-  const std::string_view word = argc > 1 ? argv[1] : "-";
+  int first = 1;
+  while (first < argc && std::string_view(argv[first]).starts_with(kLanguageOption)) {
+    first += argv[first] == kLanguageOption ? 2 : 1;
+  }
+  const std::string_view word = first < argc ? argv[first] : "-";
   if (word.starts_with('-')) return;
   std::vector<std::string> names;
   for (const CLI::App* command : program.get_subcommands({})) names.push_back(command->get_name());
@@ -183,16 +217,19 @@ void RefuseUnknownCommand(const CLI::App& program, int argc, char** argv) {
 }
 
 int Run(int argc, char** argv) {
-  CLI::App program("Gabarito: one input field for Brazilian forms that is 23 kinds of field.", "gabarito");
+  CLI::App program(std::string(kProgramHelp), "gabarito");
+  program.fallthrough();  // --lang may stand behind the command too
+  program.add_option("--lang", "Language of help and messages: en or pt")->type_name("LANGUAGE");
   program.set_version_flag("-V,--version", Version(), "Print the version and exit");
   program.require_subcommand(1);
-  program.footer(std::string(kExitStatuses));
+  program.footer(T(kExitStatuses));
   Action action;
   AddMasks(program, action);
   AddField(program, action);
   AddBatch(program, action);
   AddScript(program, action);
   AddForm(program, action);
+  TellHelp(program);
 
   int status = kNothingRefused;
   try {
@@ -211,13 +248,7 @@ int Fail(std::string_view reason) {
   return kFailed;
 }
 
-}  // namespace
-}  // namespace gabarito::cli
-
-int main(int argc, char** argv) {
-  using namespace gabarito::cli;
-  // A reader that has gone away is an error of a write, not the end of the process.
-  std::signal(SIGPIPE, SIG_IGN);
+int Guarded(int argc, char** argv) {
   try {
     return Run(argc, argv);
   } catch (const CLI::ParseError& error) {
@@ -226,9 +257,25 @@ int main(int argc, char** argv) {
     return Fail(error.what());
   } catch (const std::system_error& error) {
     return error.code() == std::errc::broken_pipe ? kFailed : Fail(error.what());
-  } catch (const gabarito::Erro& error) {  // a setter that fails by design: MaxLength -32768
+  } catch (const Erro& error) {  // a setter that fails by design: MaxLength -32768
     return Fail("run-time error " + std::to_string(error.Number()) + ": " + ToUtf8(error.Description()));
   } catch (const std::exception& error) {
     return Fail(error.what());
   }
+}
+
+}  // namespace
+}  // namespace gabarito::cli
+
+int main(int argc, char** argv) {
+  using namespace gabarito::cli;
+  // A reader that has gone away is an error of a write, not the end of the process.
+  std::signal(SIGPIPE, SIG_IGN);
+  try {
+    language = LanguageOfRun(argc, argv);
+  } catch (const UsageError& error) {
+    return Fail(error.what());
+  }
+  const TellsIn tells(std::cerr, language);
+  return Guarded(argc, argv);
 }

@@ -61,20 +61,20 @@ void WriteJson(std::ostream& out) {
       << '\n';
 }
 
-void WriteText(std::ostream& out) {
+void WriteText(Language language, std::ostream& out) {
   // Columns, so that a person reads it as a table and a script by its blanks.
   std::size_t widest = 0;
   for (const Especie& kind : Especies()) widest = std::max(widest, kind.nome.size());
   for (const Especie& kind : Especies()) {
     out << std::left << std::setw(static_cast<int>(widest)) << kind.nome << "  " << kind.valor << "  "
-        << kind.toma << '\n';
+        << Told(kind.toma, language) << '\n';
   }
 }
 
 }  // namespace
 
-int RunMasks(ListForm form, std::ostream& out) {
-  form == ListForm::kJson ? WriteJson(out) : WriteText(out);
+int RunMasks(ListForm form, Language language, std::ostream& out) {
+  form == ListForm::kJson ? WriteJson(out) : WriteText(language, out);
   return kNothingRefused;
 }
 

@@ -189,9 +189,9 @@ TEST(Script, TakesAByteOrderMarkAndBlanksInFrontOfALine) {
 
 TEST(Masks, ListsTheKindsAndTheMembersOfTheClass) {
   std::ostringstream text, json;
-  EXPECT_EQ(RunMasks(ListForm::kText, text), 0);
+  EXPECT_EQ(RunMasks(ListForm::kText, Language::kEnglish, text), 0);
   EXPECT_NE(text.str().find("\ngbCPF                   240  "), std::string::npos) << text.str();
-  EXPECT_EQ(RunMasks(ListForm::kJson, json), 0);
+  EXPECT_EQ(RunMasks(ListForm::kJson, Language::kPortuguese, json), 0);
   const Json lists = Json::parse(json.str());
   EXPECT_EQ(lists["masks"].size(), 23u);
   EXPECT_EQ(lists["masks"][3]["name"], "gbData");

@@ -11,6 +11,10 @@ set(rows
   "batch --help|0|Exit status: 0 nothing was refused, 1 the field refused something, 2 a usage error"
   "field -m cnjp|2|unknown mask 'cnjp'.*did you mean gbCNPJ"
   "field -m gbdta|2|did you mean gbData"
+  "--lang pt bogus|2|^gabarito: comando desconhecido: 'bogus'. os comandos são masks, field, batch, script, form\n$"
+  "form --lang=pt_BR --fields /|2|não foi possível ler /: é um diretório"
+  "--lang pt field --help|0|Uso: .*OBRIGATÓRIO.*Propriedades: MaxLength.*Status de saída"
+  "--lang de masks|2|the languages are en and pt"
   "field -m data --keys {TABB}{A}{tab}{TABB}({X})|0|no key is called {TABB}: its first character is typed")
 
 foreach(row IN LISTS rows)
@@ -19,8 +23,22 @@ foreach(row IN LISTS rows)
   set(status ${CMAKE_MATCH_2})
   set(pattern "${CMAKE_MATCH_3}")
   separate_arguments(arguments UNIX_COMMAND "${line}")
-  execute_process(COMMAND ${PROGRAM} ${arguments} RESULT_VARIABLE ended OUTPUT_VARIABLE text ERROR_VARIABLE text)
+  execute_process(COMMAND ${CMAKE_COMMAND} -E env LC_ALL=C ${PROGRAM} ${arguments} RESULT_VARIABLE ended OUTPUT_VARIABLE text ERROR_VARIABLE text)
   if(NOT ended STREQUAL status OR NOT text MATCHES "${pattern}")
     message(SEND_ERROR "gabarito ${line}\nends with ${ended} and writes\n${text}")
   endif()
+endforeach()
+
+# No line of words is the same in both languages: a text that the table has forgotten.
+foreach(command IN ITEMS "" masks field batch script form)
+  foreach(language en pt)
+    execute_process(COMMAND ${PROGRAM} --lang ${language} ${command} --help OUTPUT_VARIABLE text)
+    string(REGEX REPLACE "[][;]" "." text "${text}")
+    string(REPLACE "\n" ";" ${language} "${text}")
+  endforeach()
+  foreach(line IN LISTS en)
+    if(line IN_LIST pt AND line MATCHES "[a-z]+ [a-z]+ [a-z]+")
+      message(SEND_ERROR "gabarito --lang pt ${command} --help says in English: ${line}")
+    endif()
+  endforeach()
 endforeach()

@@ -131,9 +131,9 @@ TEST(DecimalProduct, IsExactInDecimals) {
 }
 
 TEST(DecimalProduct, OverflowsBeyondNinetySixBits) {
-  for (const auto& [value, factor] : std::initializer_list<std::pair<double, double>>{
+  for (const auto& row : std::initializer_list<std::pair<double, double>>{
       {792281625142644, 1e14}, {1e28, 1e28}, {1e29, 0}, {Limits::quiet_NaN(), 1}, {1, Limits::infinity()}})
-    EXPECT_EQ(RaisedBy([&] { DecimalProduct(value, factor); }), kOverflow) << value;
+    EXPECT_EQ(RaisedBy([&] { DecimalProduct(row.first, row.second); }), kOverflow) << row.first;
 }
 
 TEST(Integers, RoundHalfToEvenAndOverflow) {

@@ -10,20 +10,6 @@
 
 namespace gabarito::cli {
 
-const char* const kFormHelp =
-    R"(Shows a form in the terminal and prints the values when it is finished, so that a script can use them:
-values=$(gabarito form) || exit. Keys come from standard input, which has to be a terminal.
-
-Enter and Tab go to the next field, Shift+Tab goes back, F4 opens a list, F1 shows all keys. F10 and the button finish
-the form: every field is checked, and one that refuses what it holds, or is required and empty, keeps the person there
-and says why. Esc (after a question) and Ctrl+C with nothing selected give the form up.
-
-A list of fields: {"title": "Cliente", "fields": [{"name": "cpf", "mask": "gbCPF", "label": "CPF", "required": true}]}
-or the array alone; docs/form.md tells all keys. An empty field gives "".
-
-The exit status is 0, 2 when there is no terminal or the list is wrong, 130 when the form was given up, and 128 and
-the number of a signal that ended it; nothing is printed but with 0. NO_COLOR is honoured.)";
-
 int RunForm(const FormOptions& options) {
   // The list is judged first: what is wrong with it is told with or without a terminal.
   terminal::FormSpec form =

@@ -8,9 +8,6 @@
 
 namespace gabarito::cli {
 
-// What the program's help says about the command.
-extern const char* const kFormHelp;
-
 // The status of a form that the person has given up.
 inline constexpr int kGivenUp = 130;
 

@@ -18,9 +18,9 @@ constexpr int kRowsOfATurn = 3;
 
 // What was drawn last lies on top: the list over the fields that it covers.
 bool ClickTarget(const Screen& screen, Point at) {
-  for (const Target& target : screen.targets | std::views::reverse) {
-    if (!target.Holds(at)) continue;
-    target.click(at.x - target.x);
+  for (auto target = screen.targets.rbegin(); target != screen.targets.rend(); ++target) {
+    if (!target->Holds(at)) continue;
+    target->click(at.x - target->x);
     return true;
   }
   return false;

@@ -123,7 +123,7 @@ constexpr WordKey kWordKeys[] = {{kWordLeft, -1, 0},
                                  {kShiftWordRight, 1, kShiftMask}};
 
 constexpr char32_t kEscape = 27, kDel = 127;
-constexpr Input kNoInput{.kind = Input::Kind::kNothing};
+const Input kNoInput{.kind = Input::Kind::kNothing};
 
 Input KeyInput(std::int16_t vk, std::int16_t shift = 0) {
   return {.kind = Input::Kind::kKey, .vk = vk, .shift = shift};

@@ -58,6 +58,7 @@ if(GABARITO_CLI)
   set_property(GLOBAL APPEND PROPERTY GABARITO_INSTALLED gabarito)
   install(TARGETS gabarito RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
   install(FILES docs/gabarito.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+  install(FILES docs/gabarito.pt_BR.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/pt_BR/man1 RENAME gabarito.1)
   install(FILES completions/gabarito.bash
           DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions RENAME gabarito)
 endif()

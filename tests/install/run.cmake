@@ -64,7 +64,7 @@ endif()
 # The program, its completion and its manual page.
 run(${prefix}/bin/gabarito field --mask gbCPF --text 11144477735)
 compare("the program")
-foreach(file share/man/man1/gabarito.1 share/bash-completion/completions/gabarito)
+foreach(file share/man/man1/gabarito.1 share/man/pt_BR/man1/gabarito.1 share/bash-completion/completions/gabarito)
   if(NOT EXISTS ${prefix}/${file})
     message(FATAL_ERROR "${file} is not installed")
   endif()

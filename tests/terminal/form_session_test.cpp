@@ -10,7 +10,7 @@ namespace gabarito::terminal {
 namespace {
 
 constexpr std::int16_t kVkHome = 36, kVkDown = 40, kVkF4 = 115;
-constexpr char16_t kCtrlA = 1, kCtrlC = 3, kCtrlE = 5, kCtrlG = 7, kCtrlK = 11, kCtrlU = 21, kCtrlW = 23;
+constexpr char16_t kCtrlC = 3, kCtrlE = 5, kCtrlK = 11, kCtrlU = 21;
 
 TEST(FormSession, ARefusalStandsUnderItsFieldUntilThatChanges) {
   TypedDisplay display;

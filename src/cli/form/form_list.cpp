@@ -181,6 +181,7 @@ void TakeValues(const std::string& file, const std::map<std::string_view, Listed
     const Json values = Parse(text);
     if (!values.is_object()) throw UsageError("takes an object of names and values");
     std::vector<std::string_view> names;
+    names.reserve(by_name.size());
     for (const auto& [name, field] : by_name) names.push_back(name);
     for (const auto& [name, value] : values.items()) {
       const auto field = by_name.find(name);

@@ -45,8 +45,8 @@ void ListView::Draw(Screen& screen, int x, int width, Rows field, Rows rows, kit
 
   // Of the entries on show alone: there can be thousands of others.
   std::size_t longest = 0;
-  for (int i = 0; i < shown_; ++i) {
-    longest = std::max(longest, combo.Entries().At(static_cast<std::size_t>(first_ + i)).size());
+  for (int entry = first_; entry < first_ + shown_; ++entry) {
+    longest = std::max(longest, combo.Entries().At(static_cast<std::size_t>(entry)).size());
   }
   Grid& grid = screen.grid;
   const std::u32string count = CountOf(selected_, count_);

@@ -97,8 +97,8 @@ void MessageBox::Draw(Screen& screen) {
   grid.Put(x, y, U"┌" + bar + U"┐", frame);
   grid.Put(x + 2, y, U" " + Shortened(title_, width - 6) + U" ", frame);
   grid.Put(x, y + height - 1, U"└" + bar + U"┘", frame);
-  for (int row = 0; row < shown; ++row) {
-    grid.Put(x + 1 + kMargin, y + 1 + air + row, lines[static_cast<std::size_t>(top_ + row)], style);
+  for (int row = top_; row < top_ + shown; ++row) {
+    grid.Put(x + 1 + kMargin, y + 1 + air + row - top_, lines[static_cast<std::size_t>(row)], style);
   }
   if (top_ > 0) grid.Put(x + width - 1, y + 1 + air, U'▲', frame);
   if (top_ + shown < count) grid.Put(x + width - 1, y + air + shown, U'▼', frame);

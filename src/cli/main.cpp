@@ -38,7 +38,7 @@ Language language = Language::kEnglish;
 
 std::string T(std::string_view english) { return Told(english, language); }
 
-// "Properties: MaxLength, ComboItens, ...", as they are published.
+// "Properties: MaxLength, ComboItens, ...", in the order of the type information.
 std::string PropertyList() {
   std::string list;
   for (const Membro& member : MembrosDaInterface()) {

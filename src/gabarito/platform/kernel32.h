@@ -11,7 +11,7 @@ inline constexpr std::int32_t kLocaleUserDefault = 1024;
 inline constexpr std::int32_t kLocaleDecimal = 14;
 inline constexpr std::int32_t kLocaleThousands = 15;
 
-inline constexpr std::int32_t kPlatformWindows = 1;  // the older of the two lines of systems
+inline constexpr std::int32_t kPlatformWindows = 1;  // its version decides whether there is SendInput
 
 struct OSVERSIONINFO {
   std::int32_t dwOSVersionInfoSize = 148;

@@ -1,7 +1,8 @@
 // Text primitives: replacing, keeping characters of a set, stripping accents, telling letters.
 //
 // Pure routines over UTF-16 code units; positions are 1-based. The routines that walk a text count in a
-// 16-bit integer: a text of more than 32767 characters raises 6 before the walk, wherever that is told.
+// 16-bit integer: a text of more than 32767 characters raises 6 before the walk, where a routine
+// says so.
 #ifndef GABARITO_RULES_TEXTO_H
 #define GABARITO_RULES_TEXTO_H
 

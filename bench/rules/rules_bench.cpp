@@ -146,6 +146,16 @@ std::array<char16_t, kTamanhoDeCaixa> PisoDaMoeda(std::u16string_view texto) {
   return saida;
 }
 
+// The floors of the CNPJ with letters are the routines of the one without, on digits.
+bool ValidaDigitosDoCNPJ(std::u16string_view) {
+  static Caixa caixa(u"11.222.333/0001-81");
+  return ValidaCNPJ(caixa.Texto());
+}
+std::u16string PontuaDigitosDoCNPJ(std::u16string_view) {
+  static Caixa caixa(u"11222333000181");
+  return FormataComoCNPJ(caixa.Texto());
+}
+
 bool ValidaCartao(std::u16string_view s) { return ValidaCartaoCredito(s, kRegional); }
 
 template <FormaDeNumero kForma>
@@ -162,6 +172,11 @@ const struct {
 } kLinhas[] = {
     {"BM_ValidaCPF", u"111.444.777-35", Mede<ValidaCPF>, Mede<PisoDoCPF>},
     {"BM_ValidaCNPJ", u"11.222.333/0001-81", Mede<ValidaCNPJ>, Mede<PisoDoCNPJ>},
+    // Both beside the digits: letters may cost half as much again.
+    {"BM_ValidaCNPJAlfanumerico", u"12.ABC.345/01DE-35", Mede<ValidaCNPJAlfanumerico>,
+     Mede<ValidaDigitosDoCNPJ>},
+    {"BM_FormataComoCNPJAlfanumerico", u"12ABC34501DE35", Mede<FormataComoCNPJAlfanumerico>,
+     Mede<PontuaDigitosDoCNPJ>},
     {"BM_ValidaCartaoCredito", u"4111 1111 1111 1111", Mede<ValidaCartao>, Mede<PisoDoCartao>},
     {"BM_FormataComoCPF", u"11144477735", Mede<FormataComoCPF>, Mede<PisoDePontuarCPF>},
     {"BM_FormataComoCNPJ", u"11222333000181", Mede<FormataComoCNPJ>, Mede<PisoDePontuarCNPJ>},

@@ -47,6 +47,7 @@ constexpr RegraDeTecla kMesAno{.teclas = Teclas::kDigitos, .limites = {12, -1}};
 constexpr RegraDeTecla kHora{.teclas = Teclas::kDigitos, .limites = {23, 59}};
 constexpr RegraDeTecla kCEP{.teclas = Teclas::kDigitos, .saltos = u"-"};
 constexpr RegraDeTecla kDocumento{.teclas = Teclas::kDigitos, .saltos = u"/-"};
+constexpr RegraDeTecla kCNPJ{.teclas = Teclas::kDigitos, .saltos = u"/-", .lugaresDeLetra = 12};
 constexpr RegraDeTecla kTelefone{.teclas = Teclas::kTelefone, .tambem = u"+-()#* "};
 constexpr RegraDeTecla kCartao{.teclas = Teclas::kDigitos, .tambem = u" "};
 
@@ -87,7 +88,7 @@ constexpr Especie kEspecies[] = {
     {gbCPF, "gbCPF", "a CPF: personal taxpayer number",
      LayoutSimples, CarregaCPF, SaiDoCPF, kDocumento},
     {gbCNPJ, "gbCNPJ", "a CNPJ: company taxpayer number, or its root",
-     LayoutSimples, CarregaCNPJ, SaiDoCNPJ, kDocumento},
+     LayoutSimples, CarregaCNPJ, SaiDoCNPJ, kCNPJ},
     {gbCidadeEstado, "gbCidadeEstado", "a city typed and a state chosen",
      AjustaComoCidadeEstado, CarregaCidadeEstado, SaiDaCidadeEstado, kLetras},
     {gbEstado, "gbEstado", "a state chosen from the list",

@@ -24,6 +24,7 @@ constexpr Membro kMembros[] = {
     {"Appearance", TipoDeMembro::kPropriedade, "Appearance"},
     {"Font", TipoDeMembro::kPropriedade, "font"},
     {"TrataEnterComoTab", TipoDeMembro::kPropriedade, "boolean"},
+    {"CNPJAlfanumerico", TipoDeMembro::kPropriedade, "boolean"},
 };
 
 constexpr Membro kEventos[] = {{"KeyUp", TipoDeMembro::kMetodo, "", kDeKeyUp}};

@@ -13,6 +13,7 @@ constexpr std::u16string_view kMask = u"Mask";
 constexpr std::u16string_view kBackColor = u"BackColor";
 constexpr std::u16string_view kEnabled = u"Enabled";
 constexpr std::u16string_view kTrataEnterComoTab = u"TrataEnterComoTab";
+constexpr std::u16string_view kCNPJAlfanumerico = u"CNPJAlfanumerico";
 
 // A new object on each call, so that nobody's change of a font reaches the default.
 FontRef FontePadrao() {
@@ -69,6 +70,7 @@ void UserControl_ReadProperties(Campo& c, const PropertyBag& PropBag) {
     PoeEnabled(c, Como<bool>(PropBag.ReadProperty(kEnabled, caixas[0]->Enabled())));
   });
   pula([&] { c.mTrataEnterComoTab = Como<bool>(PropBag.ReadProperty(kTrataEnterComoTab, true)); });
+  pula([&] { c.mCNPJAlfanumerico = Como<bool>(PropBag.ReadProperty(kCNPJAlfanumerico, false)); });
 }
 
 void UserControl_WriteProperties(const Campo& c, PropertyBag& PropBag) {
@@ -88,6 +90,8 @@ void UserControl_WriteProperties(const Campo& c, PropertyBag& PropBag) {
     PropBag.WriteProperty(kEnabled, ligado, ligado);
   });
   pula([&] { PropBag.WriteProperty(kTrataEnterComoTab, c.mTrataEnterComoTab, true); });
+  // False is not stored, so a form that does not ask for letters keeps the stored form that it had.
+  pula([&] { PropBag.WriteProperty(kCNPJAlfanumerico, c.mCNPJAlfanumerico, false); });
 }
 
 void UserControl_Terminate(Campo& c) {

@@ -12,12 +12,12 @@ namespace gabarito {
 // The defaults of a new field. No layout runs; PropertyChanged "Font" alone is reported.
 void UserControl_Initialize(Campo& c);
 
-// The seven keys in their order through the setters, "Mask" and "TrataEnterComoTab" straight into their
-// fields. A value that a setter cannot take leaves the property as it was. The children show the layout of
-// gbDefUsr until the next Show or Resize.
+// The eight keys in their order through the setters, "Mask", "TrataEnterComoTab" and "CNPJAlfanumerico"
+// straight into their fields. A value that a setter cannot take leaves the property as it was. The children
+// show the layout of gbDefUsr until the next Show or Resize.
 void UserControl_ReadProperties(Campo& c, const PropertyBag& PropBag);
 
-// The seven keys in their order. Text is not read: saving runs no exit check.
+// The eight keys in their order. Text is not read: saving runs no exit check.
 void UserControl_WriteProperties(const Campo& c, PropertyBag& PropBag);
 
 // Releases the words and the active boxes.

@@ -25,6 +25,11 @@ void PoeBackColor(Campo& c, Color lCor) {
   pula([&] { c.UserControl->PropertyChanged(u"BackColor"); });
 }
 
+void PoeCNPJAlfanumerico(Campo& c, bool valor) {
+  c.mCNPJAlfanumerico = valor;
+  c.UserControl->PropertyChanged(u"CNPJAlfanumerico");
+}
+
 void PoeComboListIndex(Campo& c, std::int16_t valor) {
   PulaErros pula;
   pula([&] { c.Combo1->ListIndex(valor); });

@@ -15,6 +15,7 @@ namespace gabarito {
 // skip-on-error mode; a failure in another reaches the caller.
 void PoeAppearance(Campo& c, std::int32_t valor);
 void PoeBackColor(Campo& c, Color lCor);
+void PoeCNPJAlfanumerico(Campo& c, bool valor);
 void PoeComboListIndex(Campo& c, std::int16_t valor);
 void PoeEnabled(Campo& c, bool valor);
 void PoeFont(Campo& c, const FontRef& sFnt);

@@ -19,6 +19,40 @@ std::int16_t Contagem(std::int32_t lida) {
   return lida > kMaior ? std::int16_t{0} : static_cast<std::int16_t>(lida);
 }
 
+// The text that the box would hold with the key at its end, whatever the caret.
+struct Candidato {
+  std::u16string_view antes;          // what it holds in front of the key
+  std::u16string_view antesDoCursor;  // what stands before the caret
+  bool substituiTudo = false;         // the key replaces the whole text
+  bool cheia = false;                 // the box holds as much as its limit allows
+};
+
+// Piece by piece: what a read that fails leaves out keeps its first value. So a text that the box does not
+// give, or one too long to count, leaves the key to be judged by itself.
+void LeCandidato(const TextBox& txt, std::int16_t inicio, std::int16_t selecao, Candidato& candidato) {
+  const std::u16string_view texto = txt.Text();
+  if (texto.size() > kMaiorTextoPercorrido) return;
+  const std::int32_t tamanho = Len(texto);
+  candidato.antesDoCursor = Left(texto, inicio);
+  candidato.substituiTudo = selecao == tamanho && tamanho > 0;
+  if (candidato.substituiTudo) return;
+  candidato.antes = texto;
+  candidato.cheia = tamanho == txt.MaxLength();
+}
+
+// A letter of a CNPJ passes as its capital, all else as the rule of the kind says.
+Desfecho JulgaTecla(const Campo& c, const RegraDeTecla& regra, std::int16_t Index, const Candidato& candidato,
+                    std::int16_t& KeyAscii) {
+  const char16_t caractere = Chr(KeyAscii);
+  if (c.mCNPJAlfanumerico) {
+    if (const char16_t letra = LetraNoLugar(regra, candidato.antesDoCursor, caractere); letra != 0) {
+      KeyAscii = static_cast<std::int16_t>(letra);
+      return Desfecho::kPassa;
+    }
+  }
+  return Julga(regra, Index, candidato.antes, caractere);
+}
+
 // A box that is not on show refuses the focus, and the key is swallowed all the same.
 void Salta(Campo& c, PulaErros& pula, std::int16_t Index, std::int16_t& KeyAscii) {
   KeyAscii = 0;
@@ -59,22 +93,11 @@ void EntradaKeyPress(Campo& c, const RegraDeTecla& regra, TextBox& txt, std::int
     return;
   }
 
-  // A text that the box does not give, or one too long to count, leaves the key to be judged by itself.
-  std::u16string_view antes;  // what the candidate text holds in front of the key
-  bool substituiTudo = false;
-  bool cheia = false;
-  pula([&] {
-    const std::u16string_view texto = txt.Text();
-    if (texto.size() > kMaiorTextoPercorrido) return;
-    const std::int32_t tamanho = Len(texto);
-    substituiTudo = selecao == tamanho && tamanho > 0;
-    if (substituiTudo) return;
-    antes = texto;
-    cheia = tamanho == txt.MaxLength();
-  });
+  Candidato candidato;
+  pula([&] { LeCandidato(txt, inicio, selecao, candidato); });
   Desfecho desfecho = Desfecho::kPassa;
-  pula([&] { desfecho = Julga(regra, Index, antes, Chr(KeyAscii)); });
-  if (cheia) pula([&] { c.Dialogs->Beep(); });
+  pula([&] { desfecho = JulgaTecla(c, regra, Index, candidato, KeyAscii); });
+  if (candidato.cheia) pula([&] { c.Dialogs->Beep(); });
   if (desfecho == Desfecho::kRejeita) {
     pula([&] { c.Dialogs->Beep(); });
     KeyAscii = 0;
@@ -91,7 +114,7 @@ void EntradaKeyPress(Campo& c, const RegraDeTecla& regra, TextBox& txt, std::int
     const std::int32_t n = Len(txt.Text()) + 1;
     return n <= std::int32_t{kMaiorTextoPercorrido} && n == txt.MaxLength();
   };
-  if (!substituiTudo && pula.Se(enche)) Envia(c, pula, u"{TAB}");
+  if (!candidato.substituiTudo && pula.Se(enche)) Envia(c, pula, u"{TAB}");
 }
 
 void KeyPressDaCaixa(Campo& c, const RegraDeTecla& regra, TextBox& txt, TextBox& gemea, std::int16_t Index,

@@ -46,4 +46,14 @@ Desfecho Julga(const RegraDeTecla& regra, std::int16_t indice, std::u16string_vi
   return ValorDoCandidato(texto, caractere) > regra.limites[indice] ? Desfecho::kRejeita : Desfecho::kPassa;
 }
 
+char16_t LetraNoLugar(const RegraDeTecla& regra, std::u16string_view antes, char16_t caractere) {
+  const char16_t maiuscula = DigitoOuMaiuscula(caractere);
+  if (maiuscula == 0 || EhDigito(caractere)) return 0;
+  std::size_t ocupados = 0;
+  for (std::size_t i = 0; i < antes.size() && ocupados < regra.lugaresDeLetra; ++i) {
+    ocupados += DigitoOuMaiuscula(antes[i]) != 0;
+  }
+  return ocupados < regra.lugaresDeLetra ? maiuscula : u'\0';
+}
+
 }  // namespace gabarito

@@ -1,4 +1,5 @@
-// The ten ASCII digits in a text; no other character counts as one.
+// The ten ASCII digits in a text, and the 26 capitals where a number may hold letters; no other character
+// counts as one.
 #ifndef GABARITO_RULES_DIGITOS_H
 #define GABARITO_RULES_DIGITOS_H
 
@@ -10,6 +11,14 @@
 namespace gabarito {
 
 constexpr bool EhDigito(char16_t c) { return c >= u'0' && c <= u'9'; }
+
+constexpr bool EhMaiuscula(char16_t c) { return c >= u'A' && c <= u'Z'; }
+
+// The digit or the letter as a capital; 0 for every other character.
+constexpr char16_t DigitoOuMaiuscula(char16_t c) {
+  if (c >= u'a' && c <= u'z') return static_cast<char16_t>(c - u'a' + u'A');
+  return EhDigito(c) || EhMaiuscula(c) ? c : u'\0';
+}
 
 // The value of one character taken as a digit: 0 for every character that is none.
 constexpr std::int16_t ValorDoDigito(char16_t c) {

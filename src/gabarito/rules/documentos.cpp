@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <string>
+#include <type_traits>
 
 #include "gabarito/platform/number.h"
 #include "gabarito/rules/digitos.h"
@@ -112,6 +113,18 @@ bool ValidaCNPJ(std::u16string_view s) {
   const std::u16string_view texto(limpo.data(), tamanho);
   if (!(Grandeza(texto) > 0)) return false;
   return tamanho == kTamanhoDaRaiz ? ConfereRaizDeCNPJ(texto) : ConfereCNPJ(kFeitioDeCNPJ.Distribui(limpo));
+}
+
+bool ValidaCNPJAlfanumerico(std::u16string_view s) {
+  constexpr const auto& kF = kFeitioDeCNPJAlfanumerico;
+  std::remove_cvref_t<decltype(kF)>::Pistas pistas;
+  // All digits have the same lanes here as there.
+  if (kF.Le(s, pistas)) return ConfereCNPJ(pistas) && kF.Soma(pistas, kPesosDoSegundoDoCNPJ) > 0;
+  const auto ehLetra = [](char16_t c) { return DigitoOuMaiuscula(c) != 0 && !EhDigito(c); };
+  if (std::none_of(s.begin(), s.end(), ehLetra)) return ValidaCNPJ(s);
+  std::array<char16_t, kF.Digitos()> limpo;
+  if (TiraSeparadores(s, limpo) != limpo.size() || !kF.Cabe(limpo)) return false;
+  return ConfereCNPJ(kF.Distribui(limpo));
 }
 
 bool ValidaCartaoCredito(std::u16string_view s, const Regional& regional) {

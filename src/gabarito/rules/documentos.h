@@ -20,6 +20,11 @@ bool ValidaCPF(std::u16string_view s);
 // root, 8 characters, the last of them right. A number that is not above 0 is refused at either length.
 bool ValidaCNPJ(std::u16string_view s);
 
+// The same where a CNPJ may hold letters: a text with an ASCII letter in it has twelve digits or capitals and
+// two check digits beside the separators; each character weighs with its code less 48. A text without a
+// letter is judged as ValidaCNPJ does, so the root stays digits.
+bool ValidaCNPJAlfanumerico(std::u16string_view s);
+
 // A card number: a text that is a number as the region writes it, beside hyphens and blanks, with at most
 // 20 digits that meet the Luhn rule. Issuer and length are not looked at, so "0" and "18" pass; so does a
 // number without a decimal digit in it ("&HFF"), for an empty sum is a multiple of 10.

@@ -1,8 +1,9 @@
 // The punctuated form of a document number: where its digits and its separators stand.
 //
-// A text in this form is read in lanes, one for each character: a digit gives its value, a separator gives
-// 0. Weights are laid out the same way, so a check digit is a plain sum of products over all lanes,
-// without gathering the digits first.
+// A text in this form is read in lanes, one for each character: a digit gives its value, a capital letter
+// (where the form has place for one) its code less that of "0", so that "A" is 17, and a separator gives 0.
+// Weights are laid out the same way, so a check digit is a plain sum of products over all lanes, without
+// gathering the digits first.
 #ifndef GABARITO_RULES_FEITIO_H
 #define GABARITO_RULES_FEITIO_H
 
@@ -23,12 +24,15 @@ class Feitio {
  public:
   using Pistas = std::array<std::int16_t, kTamanho>;
 
-  // `modelo` is the form with "0" for each digit.
+  // `modelo` is the form with "0" for each digit and "A" for each place of a digit or a capital.
   consteval explicit Feitio(const char16_t (&modelo)[kTamanho + 1]) {
     for (std::size_t i = 0; i < kTamanho; ++i) {
-      modelo_[i] = modelo[i];
-      folga_[i] = modelo[i] == u'0' ? 9 : 0;
-      if (modelo[i] == u'0') lugares_[digitos_++] = i;
+      const bool comLetras = modelo[i] == u'A';
+      const bool lugar = comLetras || modelo[i] == u'0';
+      modelo_[i] = comLetras ? u'0' : modelo[i];
+      folga_[i] = comLetras ? u'Z' - u'0' : lugar ? 9 : 0;
+      if (lugar) lugares_[digitos_++] = i;
+      temLetras_ |= comLetras;
     }
   }
 
@@ -52,15 +56,31 @@ class Feitio {
     for (std::size_t i = 0; i < kTamanho; ++i) {
       const char16_t resto = static_cast<char16_t>(texto[i] - modelo_[i]);
       serve &= resto <= folga_[i];
+      // Between "9" and "A" lie seven characters that are neither.
+      if (temLetras_) serve &= static_cast<char16_t>(resto - 10) > 6;
       pistas[i] = static_cast<std::int16_t>(resto);
     }
     return serve;
   }
 
-  // The lanes of as many loose characters as the form has digits; one that is no digit counts as 0.
+  // Whether as many loose characters as the form has places fit them, one by one.
+  bool Cabe(std::span<const char16_t> caracteres) const {
+    for (std::size_t k = 0; k < digitos_; ++k) {
+      const bool comLetras = folga_[lugares_[k]] > 9;
+      if (!EhDigito(caracteres[k]) && !(comLetras && EhMaiuscula(caracteres[k]))) return false;
+    }
+    return true;
+  }
+
+  // The lanes of as many loose characters as the form has digits; one that is no digit, nor a capital where
+  // the form has letters, counts as 0.
   Pistas Distribui(std::span<const char16_t> caracteres) const {
     Pistas pistas{};
-    for (std::size_t k = 0; k < digitos_; ++k) pistas[lugares_[k]] = ValorDoDigito(caracteres[k]);
+    for (std::size_t k = 0; k < digitos_; ++k) {
+      const char16_t c = caracteres[k];
+      pistas[lugares_[k]] =
+          temLetras_ && EhMaiuscula(c) ? static_cast<std::int16_t>(c - u'0') : ValorDoDigito(c);
+    }
     return pistas;
   }
 
@@ -85,6 +105,7 @@ class Feitio {
   std::array<char16_t, kTamanho> folga_{};  // how far above the model a character may lie
   std::array<std::size_t, kTamanho> lugares_{};
   std::size_t digitos_ = 0;
+  bool temLetras_ = false;
 };
 
 template <std::size_t kTamanhoComZero>
@@ -92,6 +113,7 @@ Feitio(const char16_t (&)[kTamanhoComZero]) -> Feitio<kTamanhoComZero - 1>;
 
 inline constexpr Feitio kFeitioDeCPF(u"000.000.000-00");
 inline constexpr Feitio kFeitioDeCNPJ(u"00.000.000/0000-00");
+inline constexpr Feitio kFeitioDeCNPJAlfanumerico(u"AA.AAA.AAA/AAAA-00");
 inline constexpr Feitio kFeitioDeCartao(u"0000 0000 0000 0000");
 
 }  // namespace gabarito

@@ -11,28 +11,41 @@
 namespace gabarito {
 namespace {
 
-// A text that has the form already, as on every exit after the first, comes back as it is.
-template <std::size_t kTamanho>
+constexpr char16_t SoDigito(char16_t c) { return EhDigito(c) ? c : u'\0'; }
+
+// The form with the characters of `s` in it that `mantem` keeps, where they fit it; otherwise bare. A text
+// that has the form already, as on every exit after the first, comes back as it is.
+template <auto mantem, std::size_t kTamanho>
 std::u16string Pontua(std::u16string_view s, const Feitio<kTamanho>& feitio) {
   typename Feitio<kTamanho>::Pistas pistas;
   if (feitio.Le(s, pistas)) return std::u16string(s);
   if (s.size() > kMaiorTextoPercorrido) throw Erro(kOverflow);
 
-  std::array<char16_t, kTamanho> digitos;
+  std::array<char16_t, kTamanho> mantidos;
   std::size_t quantos = 0;
+  std::u16string demais;
   for (const char16_t c : s) {
-    if (!EhDigito(c)) continue;
-    if (quantos == feitio.Digitos()) return SoDigitos(s);  // one too many: they stay bare, all of them
-    digitos[quantos++] = c;
+    const char16_t mantido = mantem(c);
+    if (mantido == 0) continue;
+    if (quantos < feitio.Digitos()) {
+      mantidos[quantos++] = mantido;
+    } else {
+      demais += mantido;
+    }
   }
-  return quantos == feitio.Digitos() ? feitio.Escreve(digitos) : std::u16string(digitos.data(), quantos);
+  if (quantos == feitio.Digitos() && demais.empty() && feitio.Cabe(mantidos)) return feitio.Escreve(mantidos);
+  return std::u16string(mantidos.data(), quantos) + demais;
 }
 
 }  // namespace
 
-std::u16string FormataComoCPF(std::u16string_view s) { return Pontua(s, kFeitioDeCPF); }
+std::u16string FormataComoCPF(std::u16string_view s) { return Pontua<SoDigito>(s, kFeitioDeCPF); }
 
-std::u16string FormataComoCNPJ(std::u16string_view s) { return Pontua(s, kFeitioDeCNPJ); }
+std::u16string FormataComoCNPJ(std::u16string_view s) { return Pontua<SoDigito>(s, kFeitioDeCNPJ); }
+
+std::u16string FormataComoCNPJAlfanumerico(std::u16string_view s) {
+  return Pontua<DigitoOuMaiuscula>(s, kFeitioDeCNPJAlfanumerico);
+}
 
 std::u16string FormataComoCartao(std::u16string_view s) {
   constexpr std::size_t kGrupo = 4;

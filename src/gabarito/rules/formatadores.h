@@ -15,6 +15,10 @@ std::u16string FormataComoCPF(std::u16string_view s);
 // eight digits stays bare). Raises 6 on a text of more than 32767 characters.
 std::u16string FormataComoCNPJ(std::u16string_view s);
 
+// The same with letters: the digits and ASCII letters of `s`, these as capitals, in that form when they are
+// twelve of either and two digits, otherwise bare.
+std::u16string FormataComoCNPJAlfanumerico(std::u16string_view s);
+
 // The first 16 characters of `s` that are no blanks, in groups of four parted by blanks. The three blanks
 // are always there, whatever the length: the empty text gives three. Hyphens and letters stay.
 std::u16string FormataComoCartao(std::u16string_view s);

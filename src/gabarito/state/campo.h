@@ -39,6 +39,7 @@ struct Campo : Host {
   std::int16_t mMaxLength = 0;              // longest text of the single-box layouts; 0 is no limit
   bool mPreencherDatasInvalidasComDataDeHoje = false;
   bool mTrataEnterComoTab = false;
+  bool mCNPJAlfanumerico = false;                       // gbCNPJ takes letters
   Referencia<TextBox> mEntrada1, mEntrada2, mEntrada3;  // the active boxes: indices 0, 1, 2 of one array
 
   CacheDeArredonda arredonda;

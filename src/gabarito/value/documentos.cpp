@@ -33,13 +33,22 @@ void SaiDoDocumento(Campo& c, Formata formata, Valida valida, std::u16string_vie
 
 void CarregaCPF(Campo& c, std::u16string_view dado) { c.mEntrada1->Text(FormataComoCPF(dado)); }
 
-void CarregaCNPJ(Campo& c, std::u16string_view dado) { c.mEntrada1->Text(FormataComoCNPJ(dado)); }
+void CarregaCNPJ(Campo& c, std::u16string_view dado) {
+  c.mEntrada1->Text(c.mCNPJAlfanumerico ? FormataComoCNPJAlfanumerico(dado) : FormataComoCNPJ(dado));
+}
 
 void CarregaCartaoCredito(Campo& c, std::u16string_view dado) { c.mEntrada1->Text(FormataComoCartao(dado)); }
 
 void SaiDoCPF(Campo& c) { SaiDoDocumento(c, FormataComoCPF, ValidaCPF, u"O CPF informado é inválido."); }
 
-void SaiDoCNPJ(Campo& c) { SaiDoDocumento(c, FormataComoCNPJ, ValidaCNPJ, u"O CNPJ informado é inválido."); }
+void SaiDoCNPJ(Campo& c) {
+  constexpr std::u16string_view kInvalido = u"O CNPJ informado é inválido.";
+  if (c.mCNPJAlfanumerico) {
+    SaiDoDocumento(c, FormataComoCNPJAlfanumerico, ValidaCNPJAlfanumerico, kInvalido);
+  } else {
+    SaiDoDocumento(c, FormataComoCNPJ, ValidaCNPJ, kInvalido);
+  }
+}
 
 void SaiDoCartaoCredito(Campo& c) {
   PulaErros pula;

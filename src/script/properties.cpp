@@ -116,6 +116,8 @@ constexpr Property kProperties[] = {
      [](Gabarito& g, const Json& v) { g.Appearance(NumberOf<std::int32_t>(v, "Appearance")); }},
     {"BackColor", [](Gabarito& g) { return Json(g.BackColor()); },
      [](Gabarito& g, const Json& v) { g.BackColor(ColorFromJson(v)); }},
+    {"CNPJAlfanumerico", [](Gabarito& g) { return Json(g.CNPJAlfanumerico()); },
+     [](Gabarito& g, const Json& v) { g.CNPJAlfanumerico(Boolean(v, "CNPJAlfanumerico")); }},
     {"ComboItens", [](Gabarito& g) { return ItemsToJson(g.ComboItens()); },
      [](Gabarito& g, const Json& v) { g.ComboItens(ItemsFromJson(v)); }},
     {"ComboListCount", [](Gabarito& g) { return Json(g.ComboListCount()); }, nullptr},

@@ -99,6 +99,9 @@ void Gabarito::TrataEnterComoTab(bool valor) {
   Vivo()->UserControl->PropertyChanged(u"TrataEnterComoTab");
 }
 
+bool Gabarito::CNPJAlfanumerico() const { return c->mCNPJAlfanumerico; }
+void Gabarito::CNPJAlfanumerico(bool valor) { PoeCNPJAlfanumerico(*Vivo(), valor); }
+
 void Gabarito::KeyUp(KeyUpHandler handler) {
   c->aoKeyUp = handler ? std::make_shared<const FuncaoKeyUp>(std::move(handler)) : nullptr;
 }

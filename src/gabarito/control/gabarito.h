@@ -126,6 +126,12 @@ class Gabarito {
   bool TrataEnterComoTab() const;
   void TrataEnterComoTab(bool valor);
 
+  // gbCNPJ takes letters too, in the first twelve places of a number, in either case; they become capitals.
+  // False for a new field. Numbers without a letter are treated alike either way. Counts from the next key,
+  // load or exit on: the box stays as it is.
+  bool CNPJAlfanumerico() const;
+  void CNPJAlfanumerico(bool valor);
+
   // --- Event ---------------------------------------------------------------------------------------------
 
   // Called for each key that goes down in a text box or comes up in Combo1, and with 13 and 0 after an Enter

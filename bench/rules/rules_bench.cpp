@@ -10,7 +10,7 @@
 #include "gabarito/rules/documentos.h"
 #include "gabarito/rules/formatadores.h"
 #include "gabarito/rules/moeda.h"
-#include "gabarito/rules/texto.h"
+#include "gabarito/rules/primitivas.h"
 
 namespace gabarito {
 namespace {

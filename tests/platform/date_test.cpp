@@ -85,15 +85,17 @@ void ExpectRefused(std::u16string_view text) {
 
 TEST(DateReader, RefusesEveryOtherTextAndLeavesTheDateAlone) {
   // clang-format off
-  std::u16string_view rows =
-      u"|  |5|2024|março|5 março|01/3|25/12|2024/03|3 de 2024|02/13/2024|31/02/2024|29/02/1900|31/04/2024|"
-      u"0/1/2024|1/0/2024|1/1/99999|1/1/0099|1/1/000|012/1/2024|2024/03/|2024-25-12|03/|12//|//2024|"
-      u"/03/2024|12//2024|12/03//|1/2/3/4|5 de 3 de 2024|5de março de 2024|5 mar de T7:30|5 marc 2024|"
-      u"5 marco 2024|:30|7|7::30|7:30:|7:030|24:00|7:60|7:30:60|7:30 12/03/2024|12/03/7:30|12/03/2024 7|"
-      u"12/03/2024T|12/03/2024t7:30|12/03/2024x|12/03/2024\t|١٢/03/2024|\xD800/03/2024|12/03/2024\xDC00|";
+  for (const std::u16string_view text : {
+      u"", u"  ", u"5", u"2024", u"março", u"5 março", u"01/3", u"25/12", u"2024/03", u"3 de 2024",
+      u"02/13/2024", u"31/02/2024", u"29/02/1900", u"31/04/2024", u"0/1/2024", u"1/0/2024", u"1/1/99999",
+      u"1/1/0099", u"1/1/000", u"012/1/2024", u"2024/03/", u"2024-25-12", u"03/", u"12//", u"//2024",
+      u"/03/2024", u"12//2024", u"12/03//", u"1/2/3/4", u"5 de 3 de 2024", u"5de março de 2024",
+      u"5 mar de T7:30", u"5 marc 2024", u"5 marco 2024", u":30", u"7", u"7::30", u"7:30:", u"7:030",
+      u"24:00", u"7:60", u"7:30:60", u"7:30 12/03/2024", u"12/03/7:30", u"12/03/2024 7", u"12/03/2024T",
+      u"12/03/2024t7:30", u"12/03/2024x", u"12/03/2024\t", u"١٢/03/2024", u"\xD800/03/2024",
+      u"12/03/2024\xDC00"})
+    ExpectRefused(text);
   // clang-format on
-  for (; !rows.empty(); rows.remove_prefix(rows.find(u'|') + 1))
-    ExpectRefused(rows.substr(0, rows.find(u'|')));
   ExpectRefused(std::u16string_view(u"12/03/2024\0", 11));
   for (const char16_t c : u"1M/ :") ExpectRefused(u"12/03/" + std::u16string(1'000'000, c) + u"x");
   EXPECT_EQ(RaisedBy([] { CDate(u"31/02/2024", Regional(), kNow); }), kTypeMismatch);

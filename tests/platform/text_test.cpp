@@ -4,6 +4,7 @@
 
 #include <chrono>
 #include <string>
+#include <utility>
 
 #include "expect.h"
 
@@ -62,20 +63,19 @@ TEST(CodePage, GivesEveryCodeBack) {
 }
 
 TEST(Like, MatchesTheWholeTextAndRefusesWhatDiffers) {
-  // Each row is a text, a "~" and a pattern.
-  const auto like = [](View row) {
-    return Like(row.substr(0, row.find(u'~')), row.substr(row.find(u'~') + 1));
-  };
   // clang-format off
-  for (const View row : {
-      u"~", u"~*", u"~[]", u"ab~a[]b", u"123456~######", u"aXbXc~a*X?", u"ab@c.d~*@*.*", u"b~[a-c]",
-      u"-~[-a]", u"-~[a-]", u"f~[e-gabfa-c]", u"d~[!e-gabfa-c]", u"xbz~*[ab][]?", u"x~[!a-c]", u"[~[[]", u"*~[*]", u"]~]", u"!~[!]", u"e~[a-c-e]",
-      u"mississippi~m*iss*i", u"abab~*ab"})
-    EXPECT_TRUE(like(row)) << testing::PrintToString(row);
-  for (const View row : {
-      u"a~", u"~?", u"12345~######", u"1234567~######", u"٣~#", u"A~a", u"d~[a-c]", u"b~[!a-c]", u"~[!a]",
-      u"d~[a-c-e]", u"d~[e-gabfa-c]", u"xyz~*[ab][]?", u"abc~*b", u"ab~b[]*", u"mississippi~m*iss*s", u"!~[!!]"})
-    EXPECT_FALSE(like(row)) << testing::PrintToString(row);
+  for (const auto& [text, pattern] : std::initializer_list<std::pair<View, View>>{
+      {u"", u""}, {u"", u"*"}, {u"", u"[]"}, {u"ab", u"a[]b"}, {u"123456", u"######"}, {u"aXbXc", u"a*X?"},
+      {u"ab@c.d", u"*@*.*"}, {u"b", u"[a-c]"}, {u"-", u"[-a]"}, {u"-", u"[a-]"}, {u"f", u"[e-gabfa-c]"},
+      {u"d", u"[!e-gabfa-c]"}, {u"xbz", u"*[ab][]?"}, {u"x", u"[!a-c]"}, {u"[", u"[[]"}, {u"*", u"[*]"},
+      {u"]", u"]"}, {u"!", u"[!]"}, {u"e", u"[a-c-e]"}, {u"mississippi", u"m*iss*i"}, {u"abab", u"*ab"}})
+    EXPECT_TRUE(Like(text, pattern)) << testing::PrintToString(text) << testing::PrintToString(pattern);
+  for (const auto& [text, pattern] : std::initializer_list<std::pair<View, View>>{
+      {u"a", u""}, {u"", u"?"}, {u"12345", u"######"}, {u"1234567", u"######"}, {u"٣", u"#"}, {u"A", u"a"},
+      {u"d", u"[a-c]"}, {u"b", u"[!a-c]"}, {u"", u"[!a]"}, {u"d", u"[a-c-e]"}, {u"d", u"[e-gabfa-c]"},
+      {u"xyz", u"*[ab][]?"}, {u"abc", u"*b"}, {u"ab", u"b[]*"}, {u"mississippi", u"m*iss*s"},
+      {u"!", u"[!!]"}})
+    EXPECT_FALSE(Like(text, pattern)) << testing::PrintToString(text) << testing::PrintToString(pattern);
   // clang-format on
 }
 

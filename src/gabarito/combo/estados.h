@@ -6,7 +6,7 @@
 
 namespace gabarito {
 
-// Empties Combo1 and fills it with the 27 codes, in the house's order. Skip-on-error mode.
+// Empties Combo1 and fills it with the 27 codes, in the order of the table. Skip-on-error mode.
 void PreencheEstados(Campo& c);
 
 // Combo1 across the field with the states. mSegmentos becomes 0. Skip-on-error mode.

@@ -5,7 +5,7 @@
 
 #include "gabarito/platform/pula_erros.h"
 #include "gabarito/platform/text.h"
-#include "gabarito/rules/texto.h"
+#include "gabarito/rules/primitivas.h"
 
 namespace gabarito {
 namespace {

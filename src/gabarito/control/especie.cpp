@@ -16,7 +16,7 @@
 #include "gabarito/value/documentos.h"
 #include "gabarito/value/listas.h"
 #include "gabarito/value/numeros.h"
-#include "gabarito/value/textos.h"
+#include "gabarito/value/texto_e_contato.h"
 
 namespace gabarito {
 namespace {

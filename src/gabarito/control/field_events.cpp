@@ -6,7 +6,7 @@
 #include "gabarito/control/especie.h"
 #include "gabarito/control/foco.h"
 #include "gabarito/control/persistencia.h"
-#include "gabarito/control/texto.h"
+#include "gabarito/control/porta_do_valor.h"
 #include "gabarito/keyboard/filtro.h"
 #include "gabarito/keyboard/navegacao.h"
 #include "gabarito/state/campo.h"

@@ -1,11 +1,11 @@
 #include "gabarito/control/gabarito.h"
 
 #include "gabarito/combo/palavras.h"
+#include "gabarito/control/porta_do_valor.h"
 #include "gabarito/control/propriedades.h"
 #include "gabarito/control/sobre.h"
-#include "gabarito/control/texto.h"
 #include "gabarito/control/vazio.h"
-#include "gabarito/rules/texto.h"
+#include "gabarito/rules/primitivas.h"
 #include "gabarito/state/apaga_campos.h"
 #include "gabarito/state/campo.h"
 

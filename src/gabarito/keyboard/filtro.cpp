@@ -3,7 +3,7 @@
 #include "gabarito/keyinject/send_input.h"
 #include "gabarito/platform/pula_erros.h"
 #include "gabarito/platform/text.h"
-#include "gabarito/rules/texto.h"
+#include "gabarito/rules/primitivas.h"
 
 namespace gabarito {
 namespace {

@@ -3,7 +3,7 @@
 #include <string>
 
 #include "gabarito/rules/digitos.h"
-#include "gabarito/rules/texto.h"
+#include "gabarito/rules/primitivas.h"
 
 namespace gabarito {
 namespace {

@@ -19,7 +19,7 @@ class MaskEdBox : public InputChild {
   virtual std::u16string_view Mask() const = 0;
   virtual void Mask(std::u16string_view pattern) = 0;
 
-  // Replaces the selection and keeps the mask; what fits nowhere is dropped.
+  // Replaces the selection and keeps the mask; what its pattern refuses is dropped.
   virtual void SelText(std::u16string_view text) = 0;
 
   virtual void MaxLength(std::int16_t length) = 0;  // 0 to 64, others raise 380

@@ -10,9 +10,9 @@
 //
 // The text has one character for each place and each literal: places that are not filled hold the prompt
 // character "_". The box never asks whether an entry is complete, so an optional place differs from its
-// sibling in no answer of this class. Letters are the Latin ones, accents included; any character is
-// any but the control characters (below 32, and 127). > and < change what is entered, never a literal. A
-// prompt character that is typed, pasted or set fits every place and leaves it empty.
+// sibling in one thing: what does not fit it may pass over it. Letters are the Latin ones, accents included;
+// any character is any but the control characters (below 32, and 127). > and < change what is entered, never
+// a literal. A prompt character that is typed, pasted or set fits every place and leaves it empty.
 //
 // A character that is entered goes to the first place from the caret on if it fits there, else it is refused,
 // with two exceptions. Optional places that it does not fit are passed over, up to and including the first

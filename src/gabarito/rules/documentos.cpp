@@ -10,7 +10,7 @@
 #include "gabarito/platform/number.h"
 #include "gabarito/rules/digitos.h"
 #include "gabarito/rules/feitio.h"
-#include "gabarito/rules/texto.h"
+#include "gabarito/rules/primitivas.h"
 
 namespace gabarito {
 namespace {

@@ -6,7 +6,7 @@
 #include "gabarito/platform/erro.h"
 #include "gabarito/rules/digitos.h"
 #include "gabarito/rules/feitio.h"
-#include "gabarito/rules/texto.h"
+#include "gabarito/rules/primitivas.h"
 
 namespace gabarito {
 namespace {

@@ -3,7 +3,7 @@
 #include "gabarito/platform/text.h"
 #include "gabarito/rules/documentos.h"
 #include "gabarito/rules/formatadores.h"
-#include "gabarito/rules/texto.h"
+#include "gabarito/rules/primitivas.h"
 #include "gabarito/state/mensagens.h"
 
 namespace gabarito {

@@ -6,8 +6,8 @@
 #include "gabarito/platform/number.h"
 #include "gabarito/platform/pula_erros.h"
 #include "gabarito/platform/text.h"
-#include "gabarito/rules/texto.h"
-#include "gabarito/value/textos.h"
+#include "gabarito/rules/primitivas.h"
+#include "gabarito/value/texto_e_contato.h"
 
 namespace gabarito {
 

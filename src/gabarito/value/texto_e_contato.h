@@ -1,6 +1,6 @@
 // Free text, letters, e-mail addresses, telephone numbers and postal codes: load and exit.
-#ifndef GABARITO_VALUE_TEXTOS_H
-#define GABARITO_VALUE_TEXTOS_H
+#ifndef GABARITO_VALUE_TEXTO_E_CONTATO_H
+#define GABARITO_VALUE_TEXTO_E_CONTATO_H
 
 #include <string_view>
 
@@ -30,4 +30,4 @@ bool PassaSoLetras(Campo& c, PulaErros& pula);
 
 }  // namespace gabarito
 
-#endif  // GABARITO_VALUE_TEXTOS_H
+#endif  // GABARITO_VALUE_TEXTO_E_CONTATO_H

@@ -1,11 +1,11 @@
-#include "gabarito/value/textos.h"
+#include "gabarito/value/texto_e_contato.h"
 
 #include <limits>
 #include <string>
 
 #include "gabarito/platform/number.h"
 #include "gabarito/platform/text.h"
-#include "gabarito/rules/texto.h"
+#include "gabarito/rules/primitivas.h"
 #include "gabarito/state/mensagens.h"
 
 namespace gabarito {

@@ -1,6 +1,6 @@
 // The value door: the write of Text, and the exit check that a read of Text runs.
-#ifndef GABARITO_CONTROL_TEXTO_H
-#define GABARITO_CONTROL_TEXTO_H
+#ifndef GABARITO_CONTROL_PORTA_DO_VALOR_H
+#define GABARITO_CONTROL_PORTA_DO_VALOR_H
 
 #include <string_view>
 
@@ -18,4 +18,4 @@ void UserControl_ExitFocus(Campo& c);
 
 }  // namespace gabarito
 
-#endif  // GABARITO_CONTROL_TEXTO_H
+#endif  // GABARITO_CONTROL_PORTA_DO_VALOR_H

@@ -3,8 +3,8 @@
 // Pure routines over UTF-16 code units; positions are 1-based. The routines that walk a text count in a
 // 16-bit integer: a text of more than 32767 characters raises 6 before the walk, where a routine
 // says so.
-#ifndef GABARITO_RULES_TEXTO_H
-#define GABARITO_RULES_TEXTO_H
+#ifndef GABARITO_RULES_PRIMITIVAS_H
+#define GABARITO_RULES_PRIMITIVAS_H
 
 #include <cstddef>
 #include <cstdint>
@@ -55,4 +55,4 @@ inline bool EhLetra(std::u16string_view c) {
 
 }  // namespace gabarito
 
-#endif  // GABARITO_RULES_TEXTO_H
+#endif  // GABARITO_RULES_PRIMITIVAS_H

@@ -1,4 +1,4 @@
-#include "gabarito/control/texto.h"
+#include "gabarito/control/porta_do_valor.h"
 
 #include <string>
 

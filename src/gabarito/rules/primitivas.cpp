@@ -1,4 +1,4 @@
-#include "gabarito/rules/texto.h"
+#include "gabarito/rules/primitivas.h"
 
 #include <algorithm>
 #include <array>

@@ -66,7 +66,9 @@ TEST(Documentos, PassWithRightCheckDigitsWithoutAnAllocationAndAreRefusedWithWro
   for (const auto& row : rows) {
     const std::size_t before = allocations;
     const bool passes = row.check(row.text);
-    if (row.passes) EXPECT_EQ(allocations, before) << row.name << PrintToString(row.text);
+    if (row.passes) {
+      EXPECT_EQ(allocations, before) << row.name << PrintToString(row.text);
+    }
     EXPECT_EQ(passes, row.passes) << row.name << PrintToString(row.text);
   }
 }

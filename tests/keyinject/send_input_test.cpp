@@ -198,17 +198,6 @@ TEST_F(Typing, OpenersWithoutACloserTakeLinearTime) {
   }
 }
 
-TEST_F(Typing, GroupsAndCountsTakeLinearTime) {
-  for (const auto& [element, records] : std::initializer_list<std::pair<std::u16string_view, int>>{
-           {u"(ab)", 4}, {u"{a 5}", 10}, {u"()", 4}, {u"{TAB}", 2}}) {
-    std::u16string text;
-    for (int i = 0; i < 200'000; ++i) text += element;
-    const auto start = std::chrono::steady_clock::now();
-    EXPECT_EQ(Send(text), records * 200'000);
-    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(5)) << records;
-  }
-}
-
 TEST(SplitText, CutsAtEachDelimiterUpToTheLimit) {
   using Parts = std::vector<std::u16string_view>;
   // clang-format off

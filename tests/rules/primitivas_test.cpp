@@ -158,8 +158,10 @@ TEST(FormataComoReal, CentsFromTheTextAreThoseOfTheRounding) {
 }
 
 TEST(Separadores, AreTheSystemsOwnAndEmptyWhenItGivesNone) {
-  const auto milhar = [](std::u16string_view marca) { return SeparadorDeMilhar(Sistema(u",", marca)); };
-  EXPECT_EQ(SeparadorDecimal(Sistema(u",", u".")), u",");
+  const auto milhar = [](View marca) {
+    return std::u16string(SeparadorDeMilhar(Sistema(u",", marca)).Texto());
+  };
+  EXPECT_EQ(SeparadorDecimal(Sistema(u",", u".")).Texto(), u",");
   ExpectEach<std::u16string>(
       {{milhar(u"\u2019"), u"\u2019"}, {milhar(u"123456789"), u"123456789"}, {milhar(u"1234567890"), u""}});
 }

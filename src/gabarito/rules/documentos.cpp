@@ -48,11 +48,17 @@ bool ConfereCPF(const decltype(kFeitioDeCPF)::Pistas& pistas) {
 
 constexpr auto kPesosDoSegundoDoCNPJ = kFeitioDeCNPJ.Pesos({6, 5, 4, 3, 2, 9, 8, 7, 6, 5, 4, 3, 2});
 
-bool ConfereCNPJ(const decltype(kFeitioDeCNPJ)::Pistas& pistas) {
+// Inlined wherever it is called, so that the lanes stay in registers.
+[[gnu::always_inline]] inline bool ConfereCNPJ(const decltype(kFeitioDeCNPJ)::Pistas& pistas) {
   constexpr const auto& kF = kFeitioDeCNPJ;
   static constexpr auto kPrimeiro = kF.Pesos({5, 4, 3, 2, 9, 8, 7, 6, 5, 4, 3, 2});
   return kF.Digito(pistas, 13) == DigitoModulo11(kF.Soma(pistas, kPrimeiro)) &&
          kF.Digito(pistas, 14) == DigitoModulo11(kF.Soma(pistas, kPesosDoSegundoDoCNPJ));
+}
+
+// Weights are above 0, so a sum of 0 is a number of zeros.
+[[gnu::always_inline]] inline bool ConfereCNPJAcimaDeZero(const decltype(kFeitioDeCNPJ)::Pistas& pistas) {
+  return ConfereCNPJ(pistas) && kFeitioDeCNPJ.Soma(pistas, kPesosDoSegundoDoCNPJ) > 0;
 }
 
 constexpr std::int32_t DobroDeUmDigito(std::int32_t digito) {
@@ -68,6 +74,17 @@ bool ConfereRaizDeCNPJ(std::u16string_view raiz) {
     soma += i % 2 == 0 ? DobroDeUmDigito(digito) : digito;
   }
   return soma % 10 == 0;
+}
+
+// A text in any other form than the punctuated one.
+bool ValidaCNPJSemFeitio(std::u16string_view s) {
+  std::array<char16_t, kFeitioDeCNPJ.Digitos()> limpo;
+  const std::size_t tamanho = TiraSeparadores(s, limpo);
+  if (tamanho != kTamanhoDaRaiz && tamanho != limpo.size()) return false;
+  // The value of the whole text counts, not its digits: "ABCDEFG0" and "0E123450" are not above 0.
+  const std::u16string_view texto(limpo.data(), tamanho);
+  if (!(Grandeza(texto) > 0)) return false;
+  return tamanho == kTamanhoDaRaiz ? ConfereRaizDeCNPJ(texto) : ConfereCNPJ(kFeitioDeCNPJ.Distribui(limpo));
 }
 
 // The usual 16 digits, whose weights are known; any other count goes through ConfereLuhn.
@@ -102,29 +119,20 @@ bool ValidaCPF(std::u16string_view s) {
 
 bool ValidaCNPJ(std::u16string_view s) {
   decltype(kFeitioDeCNPJ)::Pistas pistas;
-  // Weights are above 0, so a sum of 0 is a number of zeros.
-  if (kFeitioDeCNPJ.Le(s, pistas)) {
-    return ConfereCNPJ(pistas) && kFeitioDeCNPJ.Soma(pistas, kPesosDoSegundoDoCNPJ) > 0;
-  }
-  std::array<char16_t, kFeitioDeCNPJ.Digitos()> limpo;
-  const std::size_t tamanho = TiraSeparadores(s, limpo);
-  if (tamanho != kTamanhoDaRaiz && tamanho != limpo.size()) return false;
-  // The value of the whole text counts, not its digits: "ABCDEFG0" and "0E123450" are not above 0.
-  const std::u16string_view texto(limpo.data(), tamanho);
-  if (!(Grandeza(texto) > 0)) return false;
-  return tamanho == kTamanhoDaRaiz ? ConfereRaizDeCNPJ(texto) : ConfereCNPJ(kFeitioDeCNPJ.Distribui(limpo));
+  return kFeitioDeCNPJ.Le(s, pistas) ? ConfereCNPJAcimaDeZero(pistas) : ValidaCNPJSemFeitio(s);
 }
 
 bool ValidaCNPJAlfanumerico(std::u16string_view s) {
   constexpr const auto& kF = kFeitioDeCNPJAlfanumerico;
   std::remove_cvref_t<decltype(kF)>::Pistas pistas;
   // All digits have the same lanes here as there.
-  if (kF.Le(s, pistas)) return ConfereCNPJ(pistas) && kF.Soma(pistas, kPesosDoSegundoDoCNPJ) > 0;
+  if (kF.Le(s, pistas)) return ConfereCNPJAcimaDeZero(pistas);
   const auto ehLetra = [](char16_t c) { return DigitoOuMaiuscula(c) != 0 && !EhDigito(c); };
-  if (std::none_of(s.begin(), s.end(), ehLetra)) return ValidaCNPJ(s);
+  if (std::none_of(s.begin(), s.end(), ehLetra)) return ValidaCNPJSemFeitio(s);
   std::array<char16_t, kF.Digitos()> limpo;
-  if (TiraSeparadores(s, limpo) != limpo.size() || !kF.Cabe(limpo)) return false;
-  return ConfereCNPJ(kF.Distribui(limpo));
+  if (TiraSeparadores(s, limpo) != limpo.size() || !kF.LetrasCabem(limpo)) return false;
+  const auto ehDigitoOuMaiuscula = [](char16_t c) { return EhDigito(c) || EhMaiuscula(c); };
+  return std::all_of(limpo.begin(), limpo.end(), ehDigitoOuMaiuscula) && ConfereCNPJ(kF.Distribui(limpo));
 }
 
 bool ValidaCartaoCredito(std::u16string_view s, const Regional& regional) {

@@ -49,25 +49,15 @@ class Feitio {
 
   // True when `texto` has this form exactly; `pistas` is then filled.
   bool Le(std::u16string_view texto, Pistas& pistas) const {
-    if (texto.size() != kTamanho) return false;
-    bool serve = true;
-    // Unrolled, the lanes stay in registers; as a loop they are stored one by one and waited for.
-#pragma GCC unroll 32
-    for (std::size_t i = 0; i < kTamanho; ++i) {
-      const char16_t resto = static_cast<char16_t>(texto[i] - modelo_[i]);
-      serve &= resto <= folga_[i];
-      // Between "9" and "A" lie seven characters that are neither.
-      if (temLetras_) serve &= static_cast<char16_t>(resto - 10) > 6;
-      pistas[i] = static_cast<std::int16_t>(resto);
-    }
-    return serve;
+    return temLetras_ ? LeLugares<true>(texto, pistas) : LeLugares<false>(texto, pistas);
   }
 
-  // Whether as many loose characters as the form has places fit them, one by one.
-  bool Cabe(std::span<const char16_t> caracteres) const {
+  // Whether the capitals among as many loose digits and capitals as the form has places stand where it takes
+  // them. A form without letters is given digits alone.
+  bool LetrasCabem(std::span<const char16_t> caracteres) const {
+    if (!temLetras_) return true;
     for (std::size_t k = 0; k < digitos_; ++k) {
-      const bool comLetras = folga_[lugares_[k]] > 9;
-      if (!EhDigito(caracteres[k]) && !(comLetras && EhMaiuscula(caracteres[k]))) return false;
+      if (folga_[lugares_[k]] == 9 && EhMaiuscula(caracteres[k])) return false;
     }
     return true;
   }
@@ -101,6 +91,22 @@ class Feitio {
   }
 
  private:
+  template <bool kComLetras>
+  bool LeLugares(std::u16string_view texto, Pistas& pistas) const {
+    if (texto.size() != kTamanho) return false;
+    bool serve = true;
+    // Unrolled, the lanes stay in registers; as a loop they are stored one by one and waited for.
+#pragma GCC unroll 32
+    for (std::size_t i = 0; i < kTamanho; ++i) {
+      const char16_t resto = static_cast<char16_t>(texto[i] - modelo_[i]);
+      serve &= resto <= folga_[i];
+      // Between "9" and "A" lie seven characters that are neither.
+      if constexpr (kComLetras) serve &= static_cast<char16_t>(resto - 10) > 6;
+      pistas[i] = static_cast<std::int16_t>(resto);
+    }
+    return serve;
+  }
+
   std::array<char16_t, kTamanho> modelo_{};
   std::array<char16_t, kTamanho> folga_{};  // how far above the model a character may lie
   std::array<std::size_t, kTamanho> lugares_{};

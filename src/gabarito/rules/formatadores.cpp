@@ -13,8 +13,18 @@ namespace {
 
 constexpr char16_t SoDigito(char16_t c) { return EhDigito(c) ? c : u'\0'; }
 
-// The form with the characters of `s` in it that `mantem` keeps, where they fit it; otherwise bare. A text
-// that has the form already, as on every exit after the first, comes back as it is.
+// What `mantem` keeps of `s`, in the way in which it keeps it; it gives 0 for what falls out.
+template <auto mantem>
+std::u16string Mantidos(std::u16string_view s) {
+  std::u16string mantidos;
+  for (const char16_t c : s) {
+    if (mantem(c) != 0) mantidos += mantem(c);
+  }
+  return mantidos;
+}
+
+// The form with what is kept of `s` in it, where that fits; otherwise bare. A text that has the form already,
+// as on every exit after the first, comes back as it is.
 template <auto mantem, std::size_t kTamanho>
 std::u16string Pontua(std::u16string_view s, const Feitio<kTamanho>& feitio) {
   typename Feitio<kTamanho>::Pistas pistas;
@@ -23,18 +33,14 @@ std::u16string Pontua(std::u16string_view s, const Feitio<kTamanho>& feitio) {
 
   std::array<char16_t, kTamanho> mantidos;
   std::size_t quantos = 0;
-  std::u16string demais;
   for (const char16_t c : s) {
     const char16_t mantido = mantem(c);
     if (mantido == 0) continue;
-    if (quantos < feitio.Digitos()) {
-      mantidos[quantos++] = mantido;
-    } else {
-      demais += mantido;
-    }
+    if (quantos == feitio.Digitos()) return Mantidos<mantem>(s);  // one too many: they stay bare, all of them
+    mantidos[quantos++] = mantido;
   }
-  if (quantos == feitio.Digitos() && demais.empty() && feitio.Cabe(mantidos)) return feitio.Escreve(mantidos);
-  return std::u16string(mantidos.data(), quantos) + demais;
+  const bool cabe = quantos == feitio.Digitos() && feitio.LetrasCabem(mantidos);
+  return cabe ? feitio.Escreve(mantidos) : std::u16string(mantidos.data(), quantos);
 }
 
 }  // namespace

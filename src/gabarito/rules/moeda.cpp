@@ -22,33 +22,35 @@ using DoisDigitos = std::array<char16_t, kCasasDeMoeda>;
 constexpr std::size_t kDigitosExatos = 15;
 
 struct Separadores {
-  std::u16string decimal;
-  std::u16string milhar;
+  Separador decimal;
+  Separador milhar;
 
   // The region that these two make: what reads and writes numbers goes by the same marks.
   Regional Regiao() const {
     Regional regiao;
-    regiao.decimal = decimal;
-    regiao.thousands = milhar;
+    regiao.decimal = decimal.Texto();
+    regiao.thousands = milhar.Texto();
     return regiao;
   }
 };
 
-std::u16string Separador(const Kernel32& kernel32, std::int32_t item) {
+Separador Le(const Kernel32& kernel32, std::int32_t item) {
   std::array<char, 10> buffer;
   buffer.fill('a');
   const std::int32_t escritos = kernel32.GetLocaleInfoA(kLocaleUserDefault, item, buffer);
-  if (escritos <= 0) return {};
+  Separador separador;
   // The count includes the terminating zero; a host that counts more than it was given is cut.
-  std::u16string separador(std::min(static_cast<std::size_t>(escritos) - 1, buffer.size()), u' ');
-  for (std::size_t i = 0; i < separador.size(); ++i) {
-    separador[i] = Chr(static_cast<unsigned char>(buffer[i]));
+  if (escritos > 0) separador.tamanho = std::min(static_cast<std::size_t>(escritos) - 1, buffer.size());
+  for (std::size_t i = 0; i < separador.tamanho; ++i) {
+    separador.caracteres[i] = Chr(static_cast<unsigned char>(buffer[i]));
   }
   return separador;
 }
 
 // One character that is no digit, as in every usual region.
-bool EhMarca(std::u16string_view separador) { return separador.size() == 1 && !EhDigito(separador[0]); }
+bool EhMarca(const Separador& separador) {
+  return separador.tamanho == 1 && !EhDigito(separador.caracteres[0]);
+}
 
 // 0 where there is none, and for a separator that the region leaves empty. Positions are 16-bit: one further
 // out is an overflow.
@@ -79,7 +81,7 @@ bool ParteSimples(std::u16string_view valor, const Separadores& sep, Pecas& peca
   pecas.inteira = valor.substr(0, marca);
   if (marca == valor.size()) return true;
   pecas.fracao = valor.substr(marca + 1);
-  if (valor[marca] != sep.decimal[0]) return false;
+  if (valor[marca] != sep.decimal.caracteres[0]) return false;
   if (DigitosNoComeco(pecas.fracao) != pecas.fracao.size()) return false;
   if (pecas.inteira.find_first_not_of(u'0') == pecas.inteira.npos) pecas.inteira = u"0";
   return true;
@@ -91,7 +93,7 @@ void PartePorPassos(std::u16string_view valor, FormaDeNumero forma, const Separa
   std::u16string limpo(valor);
   pula([&] {
     std::u16string conjunto = u"0123456789";
-    conjunto.append(sep.decimal).append(sep.milhar);
+    conjunto.append(sep.decimal.Texto()).append(sep.milhar.Texto());
     limpo = SoCaracteres(valor, conjunto);
   });
 
@@ -108,7 +110,7 @@ void PartePorPassos(std::u16string_view valor, FormaDeNumero forma, const Separa
     inteira = Left(limpo, posicao - 1);
     if (Val(inteira) < 1) inteira = u"0";
   }
-  if (!sep.milhar.empty() && InStr(inteira, sep.milhar) > 0) {
+  if (sep.milhar.tamanho > 0 && InStr(inteira, sep.milhar) > 0) {
     inteira = Substitui(inteira, sep.milhar, u"");
     pula([&] { inteira = FormatNumber(inteira, u"#,#", sep.Regiao()); });
   }
@@ -120,8 +122,9 @@ void PartePorPassos(std::u16string_view valor, FormaDeNumero forma, const Separa
 // Up to 15 digits the decimal arithmetic of Arredonda is exact, so the third digit decides alone and the
 // text needs no conversion. Marks that could read as anything but a mark take the long way.
 bool BastaATerceiraCasa(std::u16string_view fracao, const Separadores& sep) {
-  return fracao.size() <= kDigitosExatos && (sep.decimal == u"," || sep.decimal == u".") &&
-         sep.decimal != sep.milhar && DigitosNoComeco(fracao) == fracao.size();
+  const std::u16string_view decimal = sep.decimal;
+  return fracao.size() <= kDigitosExatos && (decimal == u"," || decimal == u".") &&
+         decimal != sep.milhar.Texto() && DigitosNoComeco(fracao) == fracao.size();
 }
 
 DoisDigitos CentavosPelaTerceiraCasa(std::u16string_view fracao) {
@@ -134,7 +137,8 @@ DoisDigitos CentavosPelaTerceiraCasa(std::u16string_view fracao) {
 
 // A result without decimals, 0 or a whole unit, gives "00".
 DoisDigitos CentavosPeloNumero(std::u16string_view fracao, const Separadores& sep, CacheDeArredonda& cache) {
-  const std::u16string texto = (u"0" + sep.decimal).append(fracao);
+  std::u16string texto = u"0";
+  texto.append(sep.decimal.Texto()).append(fracao);
   const double arredondado = Arredonda(cache, ToDouble(texto, sep.Regiao()), kCasasDeMoeda);
   const std::u16string resultado = NumberToText(arredondado, sep.decimal);
   const std::int32_t marca = InStr(resultado, sep.decimal);
@@ -152,9 +156,9 @@ DoisDigitos Centavos(std::u16string_view fracao, const Separadores& sep, CacheDe
 
 }  // namespace
 
-std::u16string SeparadorDecimal(const Kernel32& kernel32) { return Separador(kernel32, kLocaleDecimal); }
+Separador SeparadorDecimal(const Kernel32& kernel32) { return Le(kernel32, kLocaleDecimal); }
 
-std::u16string SeparadorDeMilhar(const Kernel32& kernel32) { return Separador(kernel32, kLocaleThousands); }
+Separador SeparadorDeMilhar(const Kernel32& kernel32) { return Le(kernel32, kLocaleThousands); }
 
 std::u16string FormataComoReal(std::u16string_view valor, FormaDeNumero forma, const Kernel32& kernel32,
                                CacheDeArredonda& cache) {
@@ -174,11 +178,13 @@ std::u16string FormataComoReal(std::u16string_view valor, FormaDeNumero forma, c
     });
   }
 
-  std::u16string resultado;
-  const std::u16string& juncao = forma == FormaDeNumero::kVersao ? sep.milhar : sep.decimal;
-  resultado.reserve(pecas.inteira.size() + juncao.size() + pecas.fracao.size());
-  resultado.append(pecas.inteira);
-  if (!pecas.fracao.empty()) resultado.append(juncao).append(pecas.fracao);
+  if (pecas.fracao.empty()) return std::u16string(pecas.inteira);
+  const Separador& juncao = forma == FormaDeNumero::kVersao ? sep.milhar : sep.decimal;
+  std::u16string resultado(pecas.inteira.size() + juncao.tamanho + pecas.fracao.size(), u'0');
+  std::size_t i = 0;
+  for (const char16_t c : pecas.inteira) resultado[i++] = c;
+  for (const char16_t c : juncao.Texto()) resultado[i++] = c;
+  for (const char16_t c : pecas.fracao) resultado[i++] = c;
   return resultado;
 }
 

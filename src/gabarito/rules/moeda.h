@@ -2,6 +2,8 @@
 #ifndef GABARITO_RULES_MOEDA_H
 #define GABARITO_RULES_MOEDA_H
 
+#include <array>
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -10,11 +12,19 @@
 
 namespace gabarito {
 
-// The user's decimal mark and thousands separator, asked of the system on each call: at most 9 characters,
-// the empty text when the system gives none. A number is not parted, grouped or regrouped at a mark that is
-// empty.
-std::u16string SeparadorDecimal(const Kernel32& kernel32);
-std::u16string SeparadorDeMilhar(const Kernel32& kernel32);
+// A separator as the system gives it: at most 9 characters, none when it gives none.
+struct Separador {
+  std::array<char16_t, 10> caracteres;
+  std::size_t tamanho = 0;
+
+  std::u16string_view Texto() const { return {caracteres.data(), tamanho}; }
+  operator std::u16string_view() const { return Texto(); }
+};
+
+// The user's decimal mark and thousands separator, asked of the system on each call. A number is not parted,
+// grouped or regrouped at one that is empty.
+Separador SeparadorDecimal(const Kernel32& kernel32);
+Separador SeparadorDeMilhar(const Kernel32& kernel32);
 
 enum class FormaDeNumero {
   kReal,    // as many decimals as were typed

@@ -87,7 +87,8 @@ class InputChildModel : public ChildModel<Interface>, public InputModel {
  public:
   using Interface::Enabled;
 
-  InputChildModel(FieldParts& parts, const ChildDesign& design) : ChildModel<Interface>(parts, design) {
+  InputChildModel(InputKind kind, FieldParts& parts, const ChildDesign& design)
+      : ChildModel<Interface>(parts, design), InputModel(kind, parts) {
     line_.Text(design.text);
   }
 
@@ -115,7 +116,6 @@ class InputChildModel : public ChildModel<Interface>, public InputModel {
 
   std::string_view Name() const override { return this->design_.name; }
   Control& Owner() override;
-  FieldParts& Parts() override;
   bool CanTakeFocus() const override;
   InputModel* Input() override { return this; }
 

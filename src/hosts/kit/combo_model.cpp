@@ -15,7 +15,7 @@ constexpr std::int32_t kPage = 8;  // entries that an open list shows
 }  // namespace
 
 ComboModel::ComboModel(FieldParts& parts, const ChildDesign& design)
-    : InputChildModel(parts, design), window_(parts.form->NewWindowHandle()) {}
+    : InputChildModel(InputKind::kCombo, parts, design), window_(parts.form->NewWindowHandle()) {}
 
 // The height of a combo box is its own.
 void ComboModel::Move(float left, std::optional<float> top, std::optional<float> width,

@@ -40,7 +40,6 @@ class ComboModel final : public InputChildModel<ComboBox, TextLine> {
   std::int32_t SendMessageA(std::int32_t message, std::int32_t wParam, std::u16string_view text) override;
   WindowHandle hWnd() const override { return window_; }
 
-  InputKind Kind() const override { return InputKind::kCombo; }
   void LostFocus() override;
   char16_t KeyPress(char16_t character) override;
   void KeyUp(std::int16_t vk, std::int16_t shift) override;

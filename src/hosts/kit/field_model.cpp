@@ -54,9 +54,8 @@ void FieldModel::End() {
   form_->focus.Forget(*parts);
   form_->Closing(*parts);
   parts->Raise([](FieldEvents& field) { field.UserControl_Terminate(); });
-  // Until here the state keeps the parts and the parts the state.
-  parts->events_.reset();
   gabarito_.reset();
+  parts->EndParts();
 }
 
 }  // namespace gabarito::kit

@@ -35,11 +35,6 @@ Control& InputChildModel<Interface, Line>::Owner() {
 }
 
 template <class Interface, class Line>
-FieldParts& InputChildModel<Interface, Line>::Parts() {
-  return this->parts_;
-}
-
-template <class Interface, class Line>
 bool InputChildModel<Interface, Line>::CanTakeFocus() const {
   return this->visible_ && enabled_ && this->parts_.Live();
 }
@@ -89,6 +84,11 @@ Host FieldParts::AsHost() {
           .Kernel32 = services.kernel,
           .Regional = services.regional,
           .Filhos = shared_from_this()};
+}
+
+void FieldParts::Ended() {
+  // The last share of the state may hold the last one of this object.
+  const auto last = std::exchange(events_, std::nullopt);
 }
 
 void FieldParts::TabStops(std::vector<Focusable*>& stops) {

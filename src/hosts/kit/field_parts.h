@@ -36,24 +36,27 @@ struct FieldParts final : Control, std::enable_shared_from_this<FieldParts> {
   // The eight children that take input, in the order of TabIndex.
   std::array<InputModel*, 8> InTabOrder();
 
-  // Between Initialize and the end of Terminate. A child of a field that has ended takes no focus.
-  bool Live() const { return events_.has_value(); }
+  // Between Initialize and Terminate. A child of a field that has ended takes no focus.
+  bool Live() const { return events_.has_value() && !Ending(); }
 
-  // Raises a handler of the field, on a share of its own; nothing happens when the field has ended.
+  // Raises a handler of the field; nothing happens when the field has ended.
   template <class Handler>
-  void Raise(Handler handler) const {
-    if (auto field = events_) handler(*field);
+  void Raise(Handler handler) {
+    if (!Live()) return;
+    const Held held(*this);
+    handler(*events_);
   }
 
   void TabStops(std::vector<Focusable*>& stops) override;
   void ExitFocus() override;
   Focusable* Surface() override { return &surface; }
-  std::shared_ptr<const void> Hold() override { return shared_from_this(); }
 
  private:
   friend class FieldModel;
   Host AsHost();
+  void Ended() override;
 
+  // The state holds the parts and the parts the state, so both are there for as long as this is set.
   std::optional<FieldEvents> events_;
 };
 

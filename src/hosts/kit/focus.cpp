@@ -15,8 +15,8 @@ void Focus::Move(Focusable& receiver) {
   Control* const left =
       former == nullptr || &former->Owner() == &receiver.Owner() ? nullptr : &former->Owner();
   // Either end of the move may be deleted by a handler: each is kept until the move is over.
-  const auto held = former == nullptr ? nullptr : former->Owner().Hold();
-  const auto held_receiver = receiver.Owner().Hold();
+  const Held held = former == nullptr ? Held() : former->Owner().Hold();
+  const Held held_receiver = receiver.Owner().Hold();
   if (former != nullptr) former->LostFocus();
   if (move != moves_ || !receiver.CanTakeFocus()) return;
   focused_ = &receiver;

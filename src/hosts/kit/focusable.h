@@ -2,8 +2,8 @@
 #ifndef HOSTS_KIT_FOCUSABLE_H
 #define HOSTS_KIT_FOCUSABLE_H
 
-#include <memory>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace gabarito::kit {
@@ -31,6 +31,19 @@ class Focusable {
   virtual InputModel* Input() { return nullptr; }
 };
 
+// A hold on the parts of a control; see Control::Hold.
+class Held {
+ public:
+  Held() = default;  // of nothing
+  explicit Held(Control& control);
+  ~Held();
+  Held(Held&& other) noexcept : control_(std::exchange(other.control_, nullptr)) {}
+  Held& operator=(Held&&) = delete;
+
+ private:
+  Control* control_ = nullptr;
+};
+
 // One place in the tab order of a form.
 class Control {
  public:
@@ -45,10 +58,31 @@ class Control {
   // What takes the focus when the part of this control that has it cannot keep it; null for nothing.
   virtual Focusable* Surface() { return nullptr; }
 
-  // Keeps the parts of this control, its Focusables, for as long as somebody holds it; null when they live as
-  // long as the form.
-  virtual std::shared_ptr<const void> Hold() { return nullptr; }
+  // Keeps the parts of this control, its Focusables, until the answer goes: whoever raises an event holds
+  // them, since a field may be deleted inside. Costs a count.
+  [[nodiscard]] Held Hold() { return Held(*this); }
+
+ protected:
+  // The control has come to its end: Ended runs as soon as nobody holds its parts.
+  void EndParts() {
+    ending_ = true;
+    const Held held(*this);
+  }
+  bool Ending() const { return ending_; }
+
+ private:
+  friend class Held;
+  // Lets the parts go. They may be gone when it returns.
+  virtual void Ended() {}
+
+  int holds_ = 0;
+  bool ending_ = false;
 };
+
+inline Held::Held(Control& control) : control_(&control) { ++control_->holds_; }
+inline Held::~Held() {
+  if (control_ != nullptr && --control_->holds_ == 0 && control_->ending_) control_->Ended();
+}
 
 }  // namespace gabarito::kit
 

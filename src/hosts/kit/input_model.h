@@ -17,10 +17,12 @@ enum class InputKind { kTextBox, kCombo, kMasked };
 
 class InputModel : public Focusable {
  public:
-  virtual InputKind Kind() const = 0;
+  InputModel(InputKind kind, FieldParts& parts) : kind_(kind), of_(parts) {}
+
+  InputKind Kind() const { return kind_; }
   virtual InputChild& AsChild() = 0;
   // The field that it belongs to; it keeps the form too.
-  virtual FieldParts& Parts() = 0;
+  FieldParts& Parts() const { return of_; }
 
   // A key goes down: raises the event, if the child has one. Both hold afterwards what the host goes on with;
   // `vk` 0 is a key that is used up. `shift` is 1 Shift, 2 Ctrl, 4 Alt.
@@ -41,6 +43,10 @@ class InputModel : public Focusable {
   virtual std::int32_t Limit() const { return 0; }
 
   std::int32_t anchor = 0;  // where a selection by keys began, for a model's own entry
+
+ private:
+  InputKind kind_;
+  FieldParts& of_;
 };
 
 }  // namespace gabarito::kit

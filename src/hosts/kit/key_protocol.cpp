@@ -34,7 +34,8 @@ bool IsFull(InputModel& child) {
 
 char16_t RaiseKeyPress(InputModel& child, char16_t character) {
   FieldParts& parts = child.Parts();
-  const SeparatorStep step = parts.form->comfort ? StepOver(child, character) : SeparatorStep();
+  if (!parts.form->comfort) return child.KeyPress(character);
+  const SeparatorStep step = StepOver(child, character);
   if (step.to == nullptr && !step.passed) return child.KeyPress(character);
   parts.dialogs.HoldBeeps();
   char16_t taken = 0;
@@ -57,6 +58,7 @@ char16_t RaiseKeyPress(InputModel& child, char16_t character) {
 void IntoModel(InputModel& child, const KeyEvent& event, std::u16string& clipboard) {
   std::int16_t code = event.unicode != 0 ? kVkPacket : event.vk, shift = event.shift;
   if (event.up) return child.KeyUp(code, shift);
+  const Held held = child.Parts().Hold();
   child.KeyDown(code, shift);
   if (!ActOnKeyDown(child, code, shift, clipboard)) return;
   const char16_t character = child.Parts().form->keyboard.CharacterOf(event);

@@ -18,7 +18,8 @@ const FontRef& MaskedDesignFont() {
 
 }  // namespace
 
-MaskedModel::MaskedModel(FieldParts& parts, const ChildDesign& design) : InputChildModel(parts, design) {
+MaskedModel::MaskedModel(FieldParts& parts, const ChildDesign& design)
+    : InputChildModel(InputKind::kMasked, parts, design) {
   font_ = MaskedDesignFont();
 }
 

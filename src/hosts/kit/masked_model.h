@@ -21,7 +21,6 @@ class MaskedModel final : public InputChildModel<MaskEdBox, MaskedEdit> {
   void Appearance(std::int32_t look) override;
   void Height(float height) override;
 
-  InputKind Kind() const override { return InputKind::kMasked; }
   void GotFocus() override;
   char16_t KeyPress(char16_t character) override;
   void HandOver(std::u16string_view text, std::int32_t selStart, std::int32_t selLength) override;

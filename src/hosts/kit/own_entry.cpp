@@ -11,6 +11,7 @@ namespace {
 
 template <class Line>
 void Navigate(Line& line, std::int32_t& anchor, std::int16_t vk, bool shift) {
+  if (vk < kVkEnd || vk > kVkDown) return;
   const std::int32_t start = line.SelStart();
   const std::int32_t end = start + line.SelLength();
   const auto size = static_cast<std::int32_t>(line.Text().size());

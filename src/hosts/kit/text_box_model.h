@@ -13,7 +13,7 @@ enum class Look : std::uint8_t { kFlat, k3D };
 class TextBoxModel final : public InputChildModel<TextBox, TextLine> {
  public:
   TextBoxModel(FieldParts& parts, const ChildDesign& design, Look look, std::int16_t index)
-      : InputChildModel(parts, design), look_(look), index_(index) {}
+      : InputChildModel(InputKind::kTextBox, parts, design), look_(look), index_(index) {}
 
   using InputChildModel::Enabled;
   void TextOf(const TextBox& other) override;
@@ -30,7 +30,6 @@ class TextBoxModel final : public InputChildModel<TextBox, TextLine> {
   // The pass after the event shows it.
   void Refresh() override {}
 
-  InputKind Kind() const override { return InputKind::kTextBox; }
   void GotFocus() override;
   void KeyDown(std::int16_t& vk, std::int16_t& shift) override;
   char16_t KeyPress(char16_t character) override;

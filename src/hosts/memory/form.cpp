@@ -33,7 +33,6 @@ void Form::OwnModel::Deliver(const kit::KeyEvent& event) {
   }
   kit::Focusable* const receiver = focus.Focused();
   if (receiver == nullptr || !receiver->CanTakeFocus()) return;
-  const auto held = receiver->Owner().Hold();
   const std::int16_t vk = event.unicode != 0 ? kVkPacket : event.vk;
   if (kit::InputModel* const child = receiver->Input())
     return kit::IntoModel(*child, event, form_.clipboard_);

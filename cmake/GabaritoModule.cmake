@@ -1,15 +1,16 @@
-# gabarito_library(NAME SOURCES ... [USES names...] [PRIVATE targets...] [OBJECT])
+# gabarito_library(NAME SOURCES ... [USES names...] [PRIVATE targets...] [OBJECT] [UNITY])
 #
 # One folder of src/, the one that calls, is one library: gabarito_NAME, also known as Gabarito::NAME. USES names the
 # libraries of the house that its headers and sources may include, and any other target that its headers need;
-# PRIVATE what its sources alone need. With OBJECT it stays a heap of object files, for gabarito_archive.
+# PRIVATE what its sources alone need. With OBJECT it stays a heap of object files, for gabarito_archive; with UNITY a
+# quick first build (GABARITO_PRECOMPILE) compiles its sources as one, for those whose headers take most of the time.
 #
 # Its headers are reached as "FOLDER/name.h" through a directory of the build tree that holds one forwarding header
 # for each header beside its sources and nothing else. So a target sees only the folders that it links: an include
 # against the arrows does not compile, on every compiler and where a file system has no links. A forwarding header
 # names the real file in full, so messages and debuggers show that one.
 function(gabarito_library name)
-  cmake_parse_arguments(arg "OBJECT" "" "SOURCES;USES;PRIVATE" ${ARGN})
+  cmake_parse_arguments(arg "OBJECT;UNITY" "" "SOURCES;USES;PRIVATE" ${ARGN})
   set(target gabarito_${name})
   set(type STATIC)
   if(arg_OBJECT)
@@ -19,6 +20,7 @@ function(gabarito_library name)
   gabarito_headers(${name} ${arg_SOURCES})
   if(GABARITO_PRECOMPILE)
     gabarito_precompile(${target})
+    set_target_properties(${target} PROPERTIES UNITY_BUILD ${arg_UNITY} UNITY_BUILD_BATCH_SIZE 0)
   endif()
 
   set(used ${arg_USES})

@@ -159,15 +159,14 @@ TEST(Sweep, TheLifeOfAFieldGoesOn) {
   Varre({.nome = "WriteProperties", .prepara = kNada, .roda = [](Cena& c) {
            c.campo.Events().UserControl_WriteProperties(c);
          }});
-  const std::string cores = "Host.Bag *.BackColor= UserControl.PropertyChanged=";
-  const std::string ligado = "Host.Bag *.Enabled= UserControl.PropertyChanged=";
   Caso caso{.nome = "ReadProperties",
             .prepara = kNada,
             .roda = [](Cena& c) { c.campo.Events().UserControl_ReadProperties(c); },
             .dentro = {{"", [](Cena& c) { c.campo->Appearance(1); }},
                        {"", [](Cena& c) { c.campo->Mask(gbDefUsr); }},
                        {"Host.Bag", [](Cena& c) { c.campo->MaskText(u"##"); }}},
-            .passos = {cores, "Combo1.BackColor " + cores, ligado, "E0.Enabled " + ligado}};
+            .passos = {"Host.Bag cores", "Combo1.BackColor Host.Bag cores", "Host.Bag ligado",
+                       "E0.Enabled Host.Bag ligado"}};
   Varre(caso);
 }
 

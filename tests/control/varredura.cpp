@@ -3,7 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <memory>
 #include <sstream>
+#include <utility>
 
 #include "gabarito/state/campo.h"
 
@@ -40,29 +42,29 @@ std::string Troca(std::string texto, const std::string& de, const std::string& p
   return texto;
 }
 
-std::string Foco(const std::string& i) {
-  return Troca(
-      "E#.SetFocus= t#.SelStart= t#.Text t#.SelLength= E#.SelStart= E#.Text E#.SelLength= "
-      "MaskEdBox1.BackColor= t0.BackColor= E0.BackColor= t1.BackColor= E1.BackColor= t2.BackColor= "
-      "E2.BackColor= t#.BackColor= E#.BackColor= UserControl.Refresh=",
-      "#", i);
+// All that happens in a step, learned by running it once in a new field.
+std::string Aprende(const Passo& passo) {
+  Cena cena;
+  std::string texto;
+  for (const std::string& operacao : cena.Ouve(passo))
+    texto.append(texto.empty() ? "" : " ").append(operacao);
+  return texto;
 }
 
-std::string Fontes() {
-  std::string fontes = "UserControl.Font=";
-  for (const char* filho : {"t0", "E0", "L0", "t1", "E1", "L1", "t2", "E2", "L2", "MaskEdBox1", "Combo1"}) {
-    fontes.append(" UserControl.Font ").append(filho).append(".Font=");
-  }
-  return fontes + " UserControl.PropertyChanged=";
+std::string Foco(std::int16_t i) {
+  return "E" + std::to_string(i) +
+         ".SetFocus= " + Aprende([i](Cena& c) { c.campo.Events().txt_entrada3D_GotFocus(i); });
 }
 
-// `membro` written on the children that take input.
-std::string EmTodos(const std::string& membro) {
-  std::string todos;
-  for (const char* filho : {"t0", "E0", "t1", "E1", "t2", "E2", "MaskEdBox1", "Combo1"}) {
-    todos.append(filho).append(membro) += ' ';
+// Every layout begins with it: the children that are hidden, before anything else is done with one.
+std::string Esconde() {
+  std::istringstream operacoes(Aprende([](Cena& c) { c.campo->Mask(gbEstado); }));
+  std::string texto, operacao;
+  while (operacoes >> operacao && !operacao.ends_with(".Visible=")) {
   }
-  return todos;
+  do texto.append(operacao) += ' ';
+  while (operacoes >> operacao && operacao.ends_with(".Visible="));
+  return texto;
 }
 
 std::vector<Lista> Listas(std::initializer_list<const char*> sempre,
@@ -178,14 +180,15 @@ class Varredura {
 }  // namespace
 
 Lista Operacoes(std::string texto) {
-  texto = Troca(texto, "foco0", Foco("0"));
-  texto = Troca(texto, "foco1", Foco("1"));
-  texto = Troca(texto, "fontes", Fontes());
-  texto = Troca(texto, "esconde",
-                "L0.Visible= t0.Visible= E0.Visible= L1.Visible= t1.Visible= E1.Visible= L2.Visible= "
-                "t2.Visible= E2.Visible= MaskEdBox1.Visible= Combo1.Visible=");
-  texto = Troca(texto, "*.BackColor=", EmTodos(".BackColor="));
-  texto = Troca(texto, "*.Enabled=", EmTodos(".Enabled="));
+  static const std::pair<const char*, std::string> aprendidas[] = {
+      {"foco0", Foco(0)},
+      {"foco1", Foco(1)},
+      {"fontes", Aprende([](Cena& c) { c.campo->Font(std::make_shared<StdFont>()); })},
+      {"cores", Aprende([](Cena& c) { c.campo->BackColor(1); })},
+      {"ligado", Aprende([](Cena& c) { c.campo->Enabled(true); })},
+      {"esconde", Esconde()},
+  };
+  for (const auto& [nome, operacoes] : aprendidas) texto = Troca(texto, nome, operacoes);
   for (const char* i : {"0", "1", "2"}) {
     const std::string indice = "(" + std::string(i) + ").";
     texto = Troca(texto, std::string("E") + i + ".", "txt_entrada3D" + indice);

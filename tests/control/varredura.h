@@ -15,8 +15,7 @@ using Lista = std::vector<std::string>;
 
 // Operations parted by blanks. Shorter names: E0 to E2 and t0 to t2 are the boxes of the 3D and the flat
 // look, L0 to L2 the labels; "foco0" is all that happens when E0 takes the focus, "esconde" what
-// EscondeControles does, "fontes" what a set of Font does, "*.Member=" the write of a member of all eight
-// children that take input.
+// EscondeControles does, "fontes", "cores" and "ligado" what a set of Font, BackColor and Enabled does.
 Lista Operacoes(std::string texto);
 
 // A form with one field in the 3D look, whose services can fail as its children do, under the name "Host".

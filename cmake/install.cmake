@@ -1,5 +1,5 @@
 # What `cmake --install` puts down: headers, libraries, CMake package, pkg-config file, and the program with its
-# manual page and its completion. The components of the package are gabarito, memory and shell.
+# manual page and its completion. The components of the package are gabarito, kit, memory, shell and qt.
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 
@@ -29,6 +29,17 @@ install_component(memory hosts/memory memory)
 if(TARGET gabarito_shell)
   install_component(shell shell shell runtime)
 endif()
+if(GABARITO_QT)
+  # One header; the others are between the field and its widgets.
+  install(TARGETS gabarito_qt EXPORT Gabarito-qt ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR})
+  install(EXPORT Gabarito-qt NAMESPACE Gabarito:: DESTINATION ${package_dir})
+  install(FILES src/hosts/qt/gabarito_field.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/gabarito/qt)
+  set_property(GLOBAL APPEND PROPERTY GABARITO_INSTALLED gabarito_qt)
+endif()
+if(TARGET gabarito_designer)
+  install(TARGETS gabarito_designer LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}/qt6/plugins/designer)
+  set_property(GLOBAL APPEND PROPERTY GABARITO_INSTALLED gabarito_designer)
+endif()
 
 configure_package_config_file(cmake/GabaritoConfig.cmake.in GabaritoConfig.cmake
                               INSTALL_DESTINATION ${package_dir} NO_SET_AND_CHECK_MACRO)
@@ -54,6 +65,10 @@ endif()
 install_pkgconfig(gabarito-memory "The field on its in-memory host" "${memory_libs}" "gabarito = ${PROJECT_VERSION}")
 install(FILES LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR})
 
+if(GABARITO_CLI AND GABARITO_QT)
+  set_property(GLOBAL APPEND PROPERTY GABARITO_INSTALLED gabarito_qt_program)
+  install(TARGETS gabarito_qt_program RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+endif()
 if(GABARITO_CLI)
   set_property(GLOBAL APPEND PROPERTY GABARITO_INSTALLED gabarito)
   install(TARGETS gabarito RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})

@@ -1,0 +1,71 @@
+// A box of a field: a QLineEdit that asks before it lets anything in.
+#ifndef HOSTS_QT_LINE_BOX_H
+#define HOSTS_QT_LINE_BOX_H
+
+#include <QtWidgets/QLineEdit>
+
+class QMimeData;
+
+namespace gabarito::qt {
+
+class LineBox;
+
+// Who decides: the field that the box belongs to. A member may delete the box.
+class BoxOwner {
+ public:
+  virtual ~BoxOwner() = default;
+  // A key goes down. Everything that it does is done when this returns.
+  virtual void KeyPressed(LineBox& box, QKeyEvent& event) = 0;
+  virtual void KeyReleased(LineBox& box, QKeyEvent& event) = 0;
+  // Text without a key of its own is about to take the place of the selection; puts in what passes.
+  virtual void TextComes(LineBox& box, const QString& text) = 0;
+  // A person has changed the text by other means: undo, a menu, the drag of a part of it.
+  virtual void Edited(LineBox& box) = 0;
+  // A mouse button goes down: what the focus brings has to be over before the click is taken.
+  virtual void MousePressed(LineBox& box) = 0;
+};
+
+class LineBox final : public QLineEdit {
+  Q_OBJECT
+
+ public:
+  LineBox(BoxOwner& owner, int index, QWidget* parent);
+
+  // Position of the child in the order of TabIndex.
+  int Index() const { return index_; }
+  // The owner is about to go.
+  void Orphan() { owner_ = nullptr; }
+  // A thin plain frame instead of the style's own.
+  void SetFlat(bool flat);
+
+  // What QLineEdit itself does with a key.
+  void ActNatively(QKeyEvent& event) { QLineEdit::keyPressEvent(&event); }
+  // A key that has come to the list around this box.
+  void TakeKey(QKeyEvent& event);
+  // Puts `text` in place of what stands there, as one edit that one undo takes back.
+  void ReplaceRange(int start, int removed, const QString& text, int caret);
+  int SelStart() const { return hasSelectedText() ? selectionStart() : cursorPosition(); }
+
+ public slots:
+  // The context menu looks these up by name.
+  void paste();
+  void cut();
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+  void keyReleaseEvent(QKeyEvent* event) override;
+  void inputMethodEvent(QInputMethodEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  BoxOwner* owner_;
+  int index_;
+  bool flat_ = false;
+};
+
+}  // namespace gabarito::qt
+
+#endif  // HOSTS_QT_LINE_BOX_H

@@ -177,10 +177,10 @@ TEST_F(FocusOf, ButtonsScrollAreasAndTabsAroundItTakeTheirTurn) {
     QTest::keyClick(form.windowHandle(), Qt::Key_Tab);
     Settle();
     visited.append(form.focusWidget()->metaObject()->className() + QString(":") +
-                   form.focusWidget()->objectName());
+                   form.focusWidget()->accessibleName());
   }
-  EXPECT_TRUE(visited.contains("gabarito::qt::LineBox:txt_entrada3D(0)")) << visited.join(' ').toStdString();
-  EXPECT_TRUE(visited.contains("gabarito::qt::LineBox:txt_entrada3D(1)"));
+  EXPECT_TRUE(visited.contains("gabarito::qt::LineBox:mês")) << visited.join(' ').toStdString();
+  EXPECT_TRUE(visited.contains("gabarito::qt::LineBox:ano"));
   EXPECT_TRUE(visited.contains("QPushButton:"));
 }
 

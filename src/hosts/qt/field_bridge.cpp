@@ -27,6 +27,8 @@ gabarito::Color FromQColor(const QColor& color) {
 // ----------------------------------------------------------------------------------------------------
 
 kit::Services WidgetServices::AsServices() {
+  static kit::SystemClock clock;
+  static kit::RegionalKernel kernel;
   kit::Services services;
   services.dialogs = &dialogs;
   services.clock = &clock;
@@ -42,7 +44,11 @@ gabarito::Color WidgetAmbient::BackColor() const {
 }
 
 FontRef WidgetAmbient::Font() const {
-  return std::make_shared<StdFont>(widget_ == nullptr ? StdFont() : FromQt(widget_->font()));
+  const StdFont font = widget_ == nullptr ? StdFont() : FromQt(widget_->font());
+  // Mostly all fields of a program have the same one, and nobody changes it but by giving them another.
+  static thread_local FontRef latest;
+  if (latest == nullptr || *latest != font) latest = std::make_shared<StdFont>(font);
+  return latest;
 }
 
 void FieldForm::Part() {

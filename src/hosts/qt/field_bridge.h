@@ -54,8 +54,6 @@ struct WidgetServices {
   WidgetDialogs dialogs;
   WidgetMetric metric;
   WidgetAmbient ambient;
-  kit::SystemClock clock;
-  kit::RegionalKernel kernel;
 };
 
 // The form of one field. Each field has one of its own, so that it can move from window to window; the

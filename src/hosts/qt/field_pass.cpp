@@ -213,14 +213,11 @@ int FieldBridge::RowWidth() const {
 }
 
 QWidget* FieldBridge::MakeBox(int index) {
-  const QString name = ToObjectName(Child(index).Name());
   if (index == kCombo) {
     list_ = new ListBox(*this, *this, index, &widget_);
-    list_->setObjectName(name);
     return list_;
   }
   auto* const line = new LineBox(*this, index, &widget_);
-  line->setObjectName(name);
   if (Child(index).Kind() == kit::InputKind::kTextBox) {
     line->SetFlat(static_cast<kit::TextBoxModel&>(Child(index)).ItsLook() == kit::Look::kFlat);
   }

@@ -10,11 +10,7 @@
 namespace gabarito::qt {
 
 LineBox::LineBox(BoxOwner& owner, int index, QWidget* parent)
-    : QLineEdit(parent), owner_(&owner), index_(index) {
-  connect(this, &QLineEdit::textEdited, this, [this] {
-    if (owner_ != nullptr) owner_->Edited(*this);
-  });
-}
+    : QLineEdit(parent), owner_(&owner), index_(index) {}
 
 void LineBox::SetFlat(bool flat) {
   flat_ = flat;
@@ -89,10 +85,22 @@ void LineBox::mouseReleaseEvent(QMouseEvent* event) {
   if (owner_ != nullptr) owner_->TextComes(*this, text);
 }
 
+// A connection costs as much as a field's own part of a small box, so it is made with the first menu.
+void LineBox::contextMenuEvent(QContextMenuEvent* event) {
+  if (!listening_) {
+    connect(this, &QLineEdit::textEdited, this, [this] {
+      if (owner_ != nullptr) owner_->Edited(*this);
+    });
+  }
+  listening_ = true;
+  QLineEdit::contextMenuEvent(event);
+}
+
 void LineBox::dropEvent(QDropEvent* event) {
   const bool from_here = event->source() == this;
   if (from_here || owner_ == nullptr) {
     QLineEdit::dropEvent(event);  // the text has passed once
+    if (owner_ != nullptr) owner_->Edited(*this);
     return;
   }
   const QString text = event->mimeData()->text();

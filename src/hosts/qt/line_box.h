@@ -57,6 +57,7 @@ class LineBox final : public QLineEdit {
   void inputMethodEvent(QInputMethodEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
   void dropEvent(QDropEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 
@@ -64,6 +65,7 @@ class LineBox final : public QLineEdit {
   BoxOwner* owner_;
   int index_;
   bool flat_ = false;
+  bool listening_ = false;  // to edits by a menu
 };
 
 }  // namespace gabarito::qt

@@ -1,9 +1,14 @@
-# gabarito_wasm_module(TARGET NAME): TARGET becomes NAME.wasm, which brings no script of its own; web/src/module.ts
-# loads it.
+# gabarito_wasm_module(TARGET NAME [PAGE_NUMBERS]): TARGET becomes NAME.wasm, which brings no script of its own;
+# web/src/module.ts loads it. With PAGE_NUMBERS the page converts numbers to digits and back.
 function(gabarito_wasm_module target name)
   target_sources(${target} PRIVATE ${PROJECT_SOURCE_DIR}/cmake/wasm/trimmings.cpp)
+  if("PAGE_NUMBERS" IN_LIST ARGN)
+    target_sources(${target} PRIVATE ${PROJECT_SOURCE_DIR}/cmake/wasm/numbers.cpp)
+    target_link_options(${target} PRIVATE LINKER:--wrap=strtod LINKER:--wrap=snprintf)
+  endif()
   gabarito_options(${target})
   set_target_properties(${target} PROPERTIES OUTPUT_NAME ${name} SUFFIX .wasm)
   target_link_options(${target} PRIVATE --no-entry -Oz -fwasm-exceptions -flto -sALLOW_MEMORY_GROWTH
-                      -sINITIAL_MEMORY=2MB -sTOTAL_STACK=256KB -sMALLOC=emmalloc -sERROR_ON_UNDEFINED_SYMBOLS=0 -sWARN_ON_UNDEFINED_SYMBOLS=0)
+                      -sINITIAL_MEMORY=2MB -sTOTAL_STACK=256KB -sERROR_ON_UNDEFINED_SYMBOLS=0
+                      -sWARN_ON_UNDEFINED_SYMBOLS=0)
 endfunction()

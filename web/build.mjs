@@ -9,7 +9,7 @@ const dist = path.join(here, 'dist');
 const modules = process.argv[2] ?? path.join(here, '../build/wasm/src');
 await mkdir(dist, { recursive: true });
 
-const common = { bundle: true, format: 'esm', target: 'es2022', minify: true, sourcemap: true, outdir: dist, logLevel: 'warning' };
+const common = { bundle: true, format: 'esm', target: 'es2022', minify: !process.env.PLAIN, sourcemap: true, outdir: dist, logLevel: 'warning' };
 await build({ ...common, entryPoints: { gabarito: path.join(here, 'src/index.ts') }, platform: 'browser' });
 await build({ ...common, entryPoints: { headless: path.join(here, 'src/headless.ts') }, platform: 'browser' });
 await build({

@@ -30,6 +30,8 @@ export const Event = {
 export const entries = 8; // children that take input; three labels follow
 export const comboPlace = 4;
 export const maskedPlace = 3;
+// As the place of what is held: more calls follow, and the news come with the last one.
+export const untold: Held = { child: -2, text: '', start: 0, length: 0 };
 export const surfacePlace = 8; // as what has the focus
 
 export const enum Verdict {
@@ -122,7 +124,11 @@ class Reader {
     const start = this.at * 2;
     this.at += (size + 1) >> 1;
     // Short ones without the decoder, which is dear to call.
-    if (size < 24) return String.fromCharCode(...this.units.subarray(start, start + size));
+    if (size < 24) {
+      let text = '';
+      for (let i = start; i < start + size; i++) text += String.fromCharCode(this.units[i]!);
+      return text;
+    }
     return wide.decode(this.units.subarray(start, start + size));
   }
 }

@@ -1,6 +1,6 @@
 // <gabarito-field>: the field as a form control of the page.
 
-import { Event, surfacePlace, type FieldNews } from './bridge.js';
+import { Event, surfacePlace, untold, type FieldNews, type Held } from './bridge.js';
 import { kindOf, kinds, maskNumber } from './kinds.js';
 import type { Page } from './page.js';
 import { Property, wordsOf, type PropertyName } from './properties.js';
@@ -39,6 +39,12 @@ const defaults: [PropertyName, Value][] = [
   ['preencherDatasInvalidasComDataDeHoje', false],
 ];
 
+const idle = (work: () => void) => (globalThis.requestIdleCallback ?? setTimeout)(work);
+
+// One observer for all fields.
+let sizes: ResizeObserver | undefined;
+const resized = new WeakMap<Element, GabaritoField>();
+
 type Value = string | number | boolean | readonly string[];
 
 export class GabaritoField extends Base implements Owner {
@@ -48,6 +54,8 @@ export class GabaritoField extends Base implements Owner {
     'preencher-datas-invalidas-com-data-de-hoje', 'value', 'readonly', 'required', 'placeholder', 'aria-label',
   ];
   // The module, once for all elements; set by index.ts.
+  private static page: Page | undefined;
+  private static readonly waiting: GabaritoField[] = [];
   static source: () => Promise<Page> = () => Promise.reject(new Error('no module'));
 
   readonly root!: ShadowRoot;
@@ -57,7 +65,7 @@ export class GabaritoField extends Base implements Owner {
   private view: FieldView | undefined;
   private plain: HTMLInputElement | undefined; // until the module is there, and when it cannot be had
   private note: HTMLElement | undefined;
-  private sizes: ResizeObserver | undefined;
+  private typing: Typing | undefined; // from the first time that something happens in the field
   private committed = ''; // the value as the last check left it
   private valueBefore = ''; // the same when the focus came in
   private pending: string | undefined; // a value for a field that is not there yet
@@ -82,6 +90,9 @@ export class GabaritoField extends Base implements Owner {
     this.root.append(this.frame);
     styleRoot(this.root);
     this.root.addEventListener('focusin', (event) => this.focusIn(event as FocusEvent));
+    this.root.addEventListener('input', (event) => {
+      if (this.listen()) this.typing!.handleEvent(event);
+    });
     this.root.addEventListener('focusout', (event) => this.focusOut(event as FocusEvent));
   }
 
@@ -92,12 +103,25 @@ export class GabaritoField extends Base implements Owner {
       this.upgrade(name);
     }
     if (this.view || this.plain) return;
-    this.makePlain();
     this.form?.addEventListener('submit', this.beforeSubmit, true);
+    if (GabaritoField.page) return this.startSoon(GabaritoField.page);
+    this.makePlain();
     GabaritoField.source().then(
-      (page) => this.start(page),
+      (page) => this.startSoon((GabaritoField.page = page)),
       () => this.fail(),
     );
+  }
+
+  // Fields that come together are measured together, before the first of them changes the page: one layout for all.
+  private startSoon(page: Page): void {
+    const { waiting } = GabaritoField;
+    if (waiting.push(this) > 1) return;
+    queueMicrotask(() => {
+      const fields = waiting.splice(0).filter((field) => field.isConnected && !field.view);
+      const widths = fields.map((field) => field.measured());
+      fields.forEach((field, i) => field.start(page, widths[i]!));
+      idle(() => fields.forEach((field) => field.dressAll()));
+    });
   }
 
   disconnectedCallback(): void {
@@ -127,6 +151,7 @@ export class GabaritoField extends Base implements Owner {
     input.setAttribute('part', 'box');
     input.style.width = '100%';
     input.value = this.pending ?? this.getAttribute('value') ?? '';
+    this.shownLabel = this.getAttribute('aria-label') ?? '';
     this.dress(input, 0);
     input.addEventListener('input', () => {
       this.dirty = true;
@@ -143,31 +168,33 @@ export class GabaritoField extends Base implements Owner {
     this.tell('O campo não pôde ser carregado: o que for digitado segue sem conferência.', false);
   }
 
-  private start(page: Page): void {
-    if (!this.isConnected || this.view) return;
+  private start(page: Page, width: number): void {
     const typed = this.plain && this.dirty ? this.plain.value : undefined;
     const focused = this.plain !== undefined && this.root.activeElement === this.plain;
     this.plain?.remove();
     this.plain = undefined;
     const view = page.add((number) => new FieldView(page, number, this)) as FieldView;
     this.view = view;
-    new Typing(view, this, this.root);
-    this.measure();
-    page.send(view.number, Event.create);
-    page.send(view.number, Event.size, view.width, this.line);
+    view.width = width;
+    page.send(view.number, Event.create, width, this.line, 0, untold);
     this.setAll();
-    this.write(typed ?? this.pending ?? this.getAttribute('value') ?? '');
+    page.send(view.number, Event.sync);
+    const text = typed ?? this.pending ?? this.getAttribute('value') ?? '';
+    if (text === '') this.settle();
+    else this.write(text);
     this.pending = undefined;
     if (this.formDisabled || this.hasAttribute('disabled')) this.set('enabled', false);
-    this.sizes ??= new ResizeObserver(() => this.resize());
-    this.sizes.observe(this.frame);
+    sizes ??= new ResizeObserver((changes) => changes.forEach(({ target }) => resized.get(target)?.resize()));
+    resized.set(this.frame, this);
+    sizes.observe(this.frame);
     if (focused || (this.autofocus && this.ownerDocument.activeElement === this.ownerDocument.body)) this.focus();
     this.validate();
   }
 
   private stop(): void {
-    this.sizes?.disconnect();
-    this.sizes = undefined;
+    sizes?.unobserve(this.frame);
+    this.typing?.stop();
+    this.typing = undefined;
     this.form?.removeEventListener('submit', this.beforeSubmit, true);
     const view = this.view;
     this.view = undefined;
@@ -179,10 +206,14 @@ export class GabaritoField extends Base implements Owner {
 
   private readonly line = 315; // twips, of one line of the design font
 
-  private measure(): boolean {
+  private measured(): number {
     const width = this.frame.clientWidth;
     const size = parseFloat(getComputedStyle(this.frame).fontSize) || 16;
-    const twips = Math.max(Math.round((width / size) * twipsAnEm) - 2 * margin, 0);
+    return Math.max(Math.round((width / size) * twipsAnEm) - 2 * margin, 0);
+  }
+
+  private measure(): boolean {
+    const twips = this.measured();
     if (!this.view || twips === this.view.width) return false;
     this.view.width = twips;
     return true;
@@ -190,7 +221,7 @@ export class GabaritoField extends Base implements Owner {
 
   // A layout empties the boxes of a date, as the field does everywhere; what a person sees must outlive a turn of the
   // phone, so the text is put back.
-  private resize(): void {
+  resize(): void {
     const view = this.view;
     if (!view || !this.measure()) return;
     const shown = view.shownText();
@@ -244,13 +275,13 @@ export class GabaritoField extends Base implements Owner {
     }
   }
 
-  private hand(name: PropertyName, value: Value): void {
+  private hand(name: PropertyName, value: Value, held?: Held): void {
     const view = this.view!;
     if (name === 'mask' && value === populated) return this.showMunicipios();
     if (name === 'appearance') this.frame.classList.toggle('deep', value === 1);
     if (name === 'enabled') this.frame.classList.toggle('off', value === false);
     const text = Array.isArray(value) ? value.join('\0') : typeof value === 'string' ? value : '';
-    view.page.send(view.number, Event.set, Property[name], Number(value) || 0, 0, undefined, text);
+    view.page.send(view.number, Event.set, Property[name], Number(value) || 0, 0, held, text);
   }
 
   // The words before the mask, whose layout shows them.
@@ -262,9 +293,8 @@ export class GabaritoField extends Base implements Owner {
     for (const [name, value] of defaults) if (!this.properties.has(name)) this.properties.set(name, value);
     for (const name of order) {
       const value = this.properties.get(name);
-      if (value !== undefined && (name !== 'maskText' || mask === kinds.gbDefUsr!.number)) this.hand(name, value);
+      if (value !== undefined && (name !== 'maskText' || mask === kinds.gbDefUsr!.number)) this.hand(name, value, untold);
     }
-    this.dressAll();
   }
 
   private showMunicipios(): void {
@@ -546,7 +576,15 @@ export class GabaritoField extends Base implements Owner {
     this.view.page.send(this.view.number, Event.focus, surfacePlace);
   }
 
+  // True when it has begun just now.
+  private listen(): boolean {
+    if (!this.view || this.typing) return false;
+    this.typing = new Typing(this.view, this, this.root);
+    return true;
+  }
+
   private focusIn(event: FocusEvent): void {
+    this.listen();
     const view = this.view;
     const place = view?.placeOf(event.target) ?? -1;
     if (!view) return;
@@ -645,7 +683,7 @@ export class GabaritoField extends Base implements Owner {
   dress(input: HTMLInputElement, place: number): void {
     const kind = kindOf(this.maskValue);
     const box = kind.boxes?.[place === 4 ? 1 : place > 4 ? place - 5 : place];
-    input.setAttribute('aria-label', box ?? this.label);
+    input.setAttribute('aria-label', box ?? this.shownLabel);
     input.inputMode = kind.inputMode ?? 'text';
     input.autocomplete = (this.getAttribute('autocomplete') ?? kind.autocomplete ?? 'off') as AutoFill;
     input.spellcheck = kind.prose ?? false;
@@ -658,9 +696,13 @@ export class GabaritoField extends Base implements Owner {
     if (this.note) input.setAttribute('aria-describedby', 'message');
   }
 
+  // Looking for labels goes through the whole page: for each field once, when the page has time.
+  private shownLabel = '';
+
   private dressAll(): void {
+    this.shownLabel = this.label;
     if (this.plain) this.dress(this.plain, 0);
     this.view?.inputs.forEach((input, place) => input && this.dress(input, place));
-    this.internals.ariaLabel = this.label;
+    this.internals.ariaLabel = this.shownLabel;
   }
 }

@@ -39,7 +39,8 @@ const css = `
 }
 :host([data-refused]) .frame { border-color: var(--_danger); }
 :host([data-refused]) .frame:focus-within { outline-color: var(--_danger); border-color: var(--_danger); }
-.frame.off { opacity: .55; cursor: not-allowed; }
+.frame.off { background: color-mix(in srgb, var(--_line) 12%, var(--_surface)); border-style: dashed; cursor: not-allowed; }
+.off .box, .off .separator { color: var(--_quiet); -webkit-text-fill-color: currentColor; }
 .box, .separator, .open { position: absolute; top: 0; block-size: 100%; box-sizing: border-box; }
 .box {
   margin: 0;

@@ -13,6 +13,7 @@ const inserting = new Set([
   'insertFromYank',
   'insertTranspose',
 ]);
+const heard = ['keydown', 'keyup', 'beforeinput', 'input', 'paste', 'cut', 'copy', 'compositionstart', 'compositionend'];
 const backspace = 8;
 const enter = 13;
 const del = 46;
@@ -42,12 +43,13 @@ export class Typing {
   constructor(
     private readonly view: FieldView,
     private readonly hearer: Hearer,
-    root: ShadowRoot,
+    private readonly root: ShadowRoot,
   ) {
-    const types = ['keydown', 'keyup', 'beforeinput', 'input', 'paste', 'cut', 'copy'] as const;
-    for (const type of types) root.addEventListener(type, this);
-    root.addEventListener('compositionstart', this);
-    root.addEventListener('compositionend', this);
+    for (const type of heard) root.addEventListener(type, this);
+  }
+
+  stop(): void {
+    for (const type of heard) this.root.removeEventListener(type, this);
   }
 
   handleEvent(event: globalThis.Event): void {

@@ -64,16 +64,21 @@ Bridge& TheBridge() {
   return bridge;
 }
 
+// As the child of a call: nothing is to be told yet.
+constexpr std::int32_t kUntold = -2;
+
 struct Arguments {
   std::int32_t a, b, c;
   Held held;
   std::u16string_view data;
 };
 
-void Create(Bridge& bridge, std::int32_t number) {
+// Of that size, in twips.
+void Create(Bridge& bridge, std::int32_t number, std::int32_t width, std::int32_t height) {
   auto& field = bridge.fields[number];
   field = std::make_shared<WebField>(bridge.page, number);
   field->Create();
+  field->Size(static_cast<float>(width), static_cast<float>(height));
 }
 
 // The value of a program: written, then checked without a word.
@@ -130,7 +135,7 @@ void Carry(WebField& field, Event event, const Arguments& with, std::u16string& 
 }
 
 void Run(Bridge& bridge, std::int32_t number, Event event, const Arguments& with, std::u16string& result) {
-  if (event == Event::kCreate) return Create(bridge, number);
+  if (event == Event::kCreate) return Create(bridge, number, with.a, with.b);
   if (event == Event::kLeave) {
     TheBridge().page->focus.Move(TheBridge().page->Place(with.a));
     return TheBridge().page->Run();
@@ -210,6 +215,11 @@ const std::int32_t* Handle(std::int32_t number, std::int32_t eventNumber, std::i
   TellFocus(answer);
   answer.Number(error);
   answer.Text(result);
+  // Several calls in a row: the news of all of them come with the last one.
+  if (with.held.child == kUntold) {
+    answer.Number(kNowhere);
+    return answer.Data();
+  }
   std::array<std::int32_t, 3> told = {before[0], before[1], FocusedField()};
   for (std::size_t i = 0; i < told.size(); ++i) {
     if (std::find(told.begin(), told.begin() + i, told[i]) != told.begin() + i) continue;

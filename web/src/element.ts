@@ -51,7 +51,7 @@ export class GabaritoField extends Base implements Owner {
   static readonly formAssociated = true;
   static readonly observedAttributes = [
     'mask', 'mask-text', 'max-length', 'combo-itens', 'appearance', 'usar-fundo-pastel', 'trata-enter-como-tab',
-    'preencher-datas-invalidas-com-data-de-hoje', 'value', 'readonly', 'required', 'placeholder', 'aria-label',
+    'preencher-datas-invalidas-com-data-de-hoje', 'cnpj-alfanumerico', 'value', 'readonly', 'required', 'placeholder', 'aria-label',
   ];
   // The module, once for all elements; set by index.ts.
   private static page: Page | undefined;
@@ -251,6 +251,8 @@ export class GabaritoField extends Base implements Owner {
         return this.set('trataEnterComoTab', text !== null && text !== 'false');
       case 'preencher-datas-invalidas-com-data-de-hoje':
         return this.set('preencherDatasInvalidasComDataDeHoje', text !== null && text !== 'false');
+      case 'cnpj-alfanumerico':
+        return this.set('cnpjAlfanumerico', text !== null && text !== 'false');
       case 'value':
         if (!this.dirty && this.isConnected) this.write(text ?? '');
         return;
@@ -287,7 +289,7 @@ export class GabaritoField extends Base implements Owner {
   // The words before the mask, whose layout shows them.
   private setAll(): void {
     const order: PropertyName[] = ['appearance', 'comboItens', 'maxLength', 'usarFundoPastel', 'trataEnterComoTab',
-      'preencherDatasInvalidasComDataDeHoje', 'mask', 'maskText'];
+      'preencherDatasInvalidasComDataDeHoje', 'cnpjAlfanumerico', 'mask', 'maskText'];
     const mask = this.properties.get('mask') ?? kinds.gbNenhuma!.number;
     this.properties.set('mask', mask);
     for (const [name, value] of defaults) if (!this.properties.has(name)) this.properties.set(name, value);
@@ -378,6 +380,13 @@ export class GabaritoField extends Base implements Owner {
   }
   set preencherDatasInvalidasComDataDeHoje(on: boolean) {
     this.toggleAttribute('preencher-datas-invalidas-com-data-de-hoje', on);
+  }
+
+  get cnpjAlfanumerico(): boolean {
+    return this.properties.get('cnpjAlfanumerico') === true;
+  }
+  set cnpjAlfanumerico(on: boolean) {
+    this.toggleAttribute('cnpj-alfanumerico', on);
   }
 
   get comboListCount(): number {

@@ -12,6 +12,7 @@ export interface Properties {
   enabled?: boolean;
   trataEnterComoTab?: boolean;
   preencherDatasInvalidasComDataDeHoje?: boolean;
+  cnpjAlfanumerico?: boolean;
 }
 
 // What became of a value: `ok` when the field has nothing against it, and else what it says.

@@ -14,6 +14,7 @@ export const Property = {
   trataEnterComoTab: 9,
   comboListIndex: 10,
   comboListCount: 11,
+  cnpjAlfanumerico: 12,
 } as const;
 
 export type PropertyName = keyof typeof Property;

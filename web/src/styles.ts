@@ -60,6 +60,7 @@ const css = `
 .box.tinted { background: color-mix(in srgb, var(--_tint) var(--gabarito-tint, 45%), var(--_surface)); }
 .box.masked { font-family: var(--gabarito-mask-font, ui-monospace, "DejaVu Sans Mono", Menlo, Consolas, monospace); }
 .box.listed { padding-inline-end: 2.4em; }
+.box.listed:not(.wide) { padding-inline: .1em 1.9em; text-align: start; }
 .box::selection { background: var(--_accent); color: var(--_surface); }
 .template {
   position: absolute; inset-block: 0; inset-inline-start: 0;

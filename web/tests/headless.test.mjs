@@ -34,6 +34,7 @@ describe('headless', () => {
     assert.equal(clean('listanocombo', 'sao paulo', { comboItens: ['Rio', 'São Paulo'] }).value, 'São Paulo');
     assert.equal(clean('cidadeestadopopulado', 'sao paulo/sp').value, 'SAO PAULO/SP');
     assert.equal(clean('nenhuma', 'é'.repeat(100000)).value.length, 100000);
+    assert.equal(clean('cnpj', '12abc34501de35', { cnpjAlfanumerico: true }).value, '12.ABC.345/01DE-35');
     assert.throws(() => clean('nonsense', '1'), RangeError);
   });
 

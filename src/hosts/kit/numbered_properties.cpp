@@ -47,6 +47,8 @@ void SetProperty(Gabarito& field, Property property, std::int32_t number, std::u
       return field.Appearance(number);
     case Property::kTrataEnterComoTab:
       return field.TrataEnterComoTab(number != 0);
+    case Property::kCNPJAlfanumerico:
+      return field.CNPJAlfanumerico(number != 0);
     case Property::kComboListIndex:
       return field.ComboListIndex(static_cast<std::int16_t>(number));
     case Property::kComboListCount:

@@ -24,6 +24,7 @@ enum class Property : std::int32_t {
   kTrataEnterComoTab,
   kComboListIndex,
   kComboListCount,
+  kCNPJAlfanumerico,
 };
 
 // A number or a boolean in `number`, a text in `text`; the words of ComboItens are joined by U+0000. Raises

@@ -78,6 +78,12 @@ TEST_F(Shell, ExportsTheFourEntryPointsAlone) {
   std::set<std::string> names;
   std::istringstream lines(output);
   for (std::string address, type, name; lines >> address >> type >> name;) names.insert(name);
+#ifdef __clang__
+  // Clang's sanitizers add marks of their own and the names of the types that they check.
+  std::erase_if(names, [](const std::string& name) {
+    return name.find("sancov") != std::string::npos || name.starts_with("_ZTI") || name.starts_with("_ZTS");
+  });
+#endif
   EXPECT_EQ(names, (std::set<std::string>{"DllCanUnloadNow", "DllGetClassObject", "DllRegisterServer",
                                           "DllUnregisterServer"}));
 }

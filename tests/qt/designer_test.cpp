@@ -78,6 +78,7 @@ TEST_F(Designer, AFormIsChangedSavedAndLoadedAgainWithTheSameField) {
       {"mask", 230},
       {"maxLength", 12},
       {"trataEnterComoTab", true},
+      {"cnpjAlfanumerico", true},
       {"usarFundoPastel", false},
       {"text", "Verde"},
   };

@@ -28,6 +28,7 @@ TEST_F(WidgetOf, EveryPropertyReadsBackWhatWasWritten) {
       {"maxLength", 12},
       {"usarFundoPastel", false},
       {"trataEnterComoTab", true},
+      {"cnpjAlfanumerico", true},
       {"preencherDatasInvalidasComDataDeHoje", false},
       {"backColor", QColor(10, 20, 30)},
       {"messageMode", GabaritoField::InPlace},

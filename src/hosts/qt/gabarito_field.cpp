@@ -118,6 +118,12 @@ void GabaritoField::setTrataEnterComoTab(bool on) {
   bridge_->Change([&](gabarito::Gabarito& field) { field.TrataEnterComoTab(on); });
 }
 
+bool GabaritoField::cnpjAlfanumerico() const { return (*bridge_->Model()).CNPJAlfanumerico(); }
+
+void GabaritoField::setCnpjAlfanumerico(bool on) {
+  bridge_->Change([&](gabarito::Gabarito& field) { field.CNPJAlfanumerico(on); });
+}
+
 // --- Messages and keys
 // --------------------------------------------------------------------------------------------
 

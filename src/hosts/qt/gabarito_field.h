@@ -42,6 +42,7 @@ class GabaritoField : public QWidget {
   Q_PROPERTY(int maxLength READ maxLength WRITE setMaxLength)
   Q_PROPERTY(bool usarFundoPastel READ usarFundoPastel WRITE setUsarFundoPastel)
   Q_PROPERTY(bool trataEnterComoTab READ trataEnterComoTab WRITE setTrataEnterComoTab)
+  Q_PROPERTY(bool cnpjAlfanumerico READ cnpjAlfanumerico WRITE setCnpjAlfanumerico)
   Q_PROPERTY(bool preencherDatasInvalidasComDataDeHoje READ preencherDatasInvalidasComDataDeHoje WRITE
                  setPreencherDatasInvalidasComDataDeHoje)
   Q_PROPERTY(QColor backColor READ backColor WRITE setBackColor RESET resetBackColor)
@@ -147,6 +148,9 @@ class GabaritoField : public QWidget {
   // Enter moves on as Tab does.
   bool trataEnterComoTab() const;
   void setTrataEnterComoTab(bool on);
+  // gbCNPJ takes letters too, in the first twelve places of a number.
+  bool cnpjAlfanumerico() const;
+  void setCnpjAlfanumerico(bool on);
 
   // --- Messages and keys
   // -----------------------------------------------------------------------------------------

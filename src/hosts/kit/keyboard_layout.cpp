@@ -163,7 +163,7 @@ constexpr void AddStroke(KeyboardTables& tables, const Key& key, char16_t Key::*
 constexpr KeyboardTables Build(std::span<const Key> layoutKeys) {
   KeyboardTables tables{};
   for (const Key& key : kCommonKeys) tables.keys[key.vk] = key;
-  for (std::uint8_t i = 0; i < std::size(kLetterScanCodes); ++i) {
+  for (std::size_t i = 0; i < std::size(kLetterScanCodes); ++i) {
     const auto capital = static_cast<std::uint8_t>('A' + i);
     const auto small = static_cast<char16_t>('a' + i);
     tables.keys[capital] = {capital, kLetterScanCodes[i], small, capital, 0, static_cast<char16_t>(i + 1)};

@@ -137,7 +137,7 @@ void FormSession::TellWhyRefused(char16_t character) {
   const std::size_t line = model_.FocusedLine();
   const Piece entry = *EntryOf(model_.Form().Focused());
   memory::Field& field = *model_.Lines()[line].field;
-  notices_.Hint(line, entry.list != nullptr ? kNotInList : WhyRefused(field->Mask(), entry, character));
+  notices_.Hint(line, entry.list != nullptr ? kNotInList : WhyRefused(*field, entry, character));
 }
 
 void FormSession::Click(Point at) {

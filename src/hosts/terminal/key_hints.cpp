@@ -38,7 +38,9 @@ bool IsDigit(char16_t c) { return c >= u'0' && c <= u'9'; }
 
 }  // namespace
 
-std::u16string_view WhyRefused(std::int32_t mask, const Piece& entry, char16_t character) {
+std::u16string_view WhyRefused(const Gabarito& field, const Piece& entry, char16_t character) {
+  const std::int32_t mask = field.Mask();
+  if (mask == gbCNPJ && field.CNPJAlfanumerico()) return u"só letras e números";
   const auto* const row = std::ranges::find(kRows, mask, &Row::mask);
   const bool known = row != std::end(kRows);
   const bool full = entry.limit > 0 && static_cast<int>(entry.text.size()) >= entry.limit;

@@ -53,7 +53,7 @@ class GabaritoField : public QWidget {
 
  public:
   // The kind of the field. Any other number is kept and shows a plain box.
-  enum Mask {
+  enum Mask : int {
     gbNenhuma = 100,
     gbLetra = 110,
     gbAlfanumerico = 120,
@@ -80,7 +80,7 @@ class GabaritoField : public QWidget {
   };
   Q_ENUM(Mask)
 
-  enum Appearance { Flat = 0, ThreeD = 1 };
+  enum Appearance : int { Flat = 0, ThreeD = 1 };
   Q_ENUM(Appearance)
 
   // Where messages go when no function is set for them.

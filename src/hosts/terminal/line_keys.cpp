@@ -6,8 +6,6 @@
 namespace gabarito::terminal {
 namespace {
 
-constexpr std::int16_t kVkEnd = 35, kVkHome = 36, kVkLeft = 37, kVkRight = 39;
-
 constexpr char16_t Ctrl(char16_t letter) { return letter - u'A' + 1; }
 
 // Characters from the caret over blanks to the far end of a word.

@@ -4,31 +4,24 @@
 
 #include "gabarito/platform/dialogs.h"
 #include "gabarito/platform/virtual_keys.h"
+#include "hosts/kit/message_buttons.h"
 
 namespace gabarito::terminal {
 namespace {
 
-constexpr std::int32_t kYesNo = 4, kSecondButton = 256;
 constexpr int kMargin = 2;  // between frame and text
 constexpr int kWidest = 56;
 constexpr int kAround = 3;  // rows that are not text: frame and buttons
 constexpr int kPage = 5;
-constexpr std::int16_t kVkPageUp = 33, kVkPageDown = 34, kVkLeft = 37, kVkUp = 38, kVkRight = 39,
-                       kVkDown = 40;
 
 }  // namespace
-
-std::int32_t DefaultButton(std::int32_t flags) {
-  if ((flags & kYesNo) == 0) return kAnswerOk;
-  return (flags & kSecondButton) != 0 ? kAnswerNo : kAnswerYes;
-}
 
 MessageBox::MessageBox(std::u32string_view text, std::int32_t flags, std::u32string_view title)
     : title_(title), text_(text) {
   // The buttons in the order of the platform, so that Escape is the last one.
-  if ((flags & kYesNo) != 0) {
+  if (kit::AsksYesNo(flags)) {
     buttons_ = {{U"[ Sim ]", kAnswerYes}, {U"[ Não ]", kAnswerNo}};
-    chosen_ = DefaultButton(flags) == kAnswerNo ? 1 : 0;
+    chosen_ = kit::DefaultAnswer(flags) == kAnswerNo ? 1 : 0;
   } else {
     buttons_ = {{U"[ OK ]", kAnswerOk}};
   }

@@ -12,9 +12,6 @@
 
 namespace gabarito::terminal {
 
-// The button that Enter presses first.
-std::int32_t DefaultButton(std::int32_t flags);
-
 class MessageBox {
  public:
   // `flags` as dialogs.h tells them.

@@ -13,9 +13,6 @@
 namespace gabarito::terminal {
 namespace {
 
-constexpr std::int16_t kVkPageUp = 33, kVkPageDown = 34, kVkEnd = 35, kVkHome = 36, kVkLeft = 37, kVkUp = 38,
-                       kVkRight = 39, kVkDown = 40, kVkF4 = 115;
-
 // Codes of our own for keys that ncurses has none for, beyond those that it gives to the extended keys of a
 // terminal's description.
 enum OwnKey {

@@ -1,4 +1,4 @@
 export default {
-  globs: ['src/element.ts'],
+  globs: ['src/form_control.ts', 'src/settings.ts', 'src/field_value.ts', 'src/element.ts'],
   outdir: 'dist',
 };

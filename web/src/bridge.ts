@@ -22,9 +22,8 @@ export const Event = {
   create: 15,
   end: 16,
   clear: 17,
-  refill: 18,
-  municipios: 19,
-  check: 20,
+  municipios: 18,
+  check: 19,
 } as const;
 
 export const entries = 8; // children that take input; three labels follow

@@ -24,4 +24,5 @@ if (globalThis.customElements && !customElements.get('gabarito-field')) {
 }
 
 export { GabaritoField };
-export type { KeyUp, Refusal } from './element.js';
+export type { KeyUp } from './element.js';
+export type { Refusal } from './messages.js';

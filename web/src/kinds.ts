@@ -42,17 +42,21 @@ export const kinds: Readonly<Record<string, Kind>> = {
 };
 
 const plain: Kind = { number: 0 };
+const byNumber = new Map(Object.entries(kinds).map(([name, kind]) => [kind.number, { ...kind, name }]));
+const short = (name: string) => name.toLowerCase().replace(/^gb/, '');
+const byName = new Map(Object.entries(kinds).map(([name, kind]) => [short(name), kind.number]));
 
 export function kindOf(mask: number): Kind {
-  return Object.values(kinds).find((kind) => kind.number === mask) ?? plain;
+  return byNumber.get(mask) ?? plain;
+}
+
+// The name of a kind, or the number of one that has none.
+export function maskName(mask: number): string {
+  return byNumber.get(mask)?.name ?? String(mask);
 }
 
 // A name in any case, with or without "gb", or a number; undefined for anything else.
 export function maskNumber(mask: string): number | undefined {
-  const name = mask.trim().toLowerCase();
-  for (const [known, kind] of Object.entries(kinds)) {
-    const low = known.toLowerCase();
-    if (name === low || name === low.slice(2)) return kind.number;
-  }
-  return /^-?\d{1,9}$/.test(name) ? Number(name) : undefined;
+  const name = mask.trim();
+  return byName.get(short(name)) ?? (/^-?\d{1,9}$/.test(name) ? Number(name) : undefined);
 }

@@ -55,6 +55,7 @@ const css = `
   outline: 0;
   appearance: none;
 }
+.wide { inset-inline: 0; inline-size: 100%; }
 .box.wide { padding-inline: .75em; }
 .box.short { text-align: center; padding-inline: 0; }
 .box.tinted { background: color-mix(in srgb, var(--_tint) var(--gabarito-tint, 45%), var(--_surface)); }

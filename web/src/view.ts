@@ -5,9 +5,8 @@ import { Change, Event, comboPlace, entries, maskedPlace, surfacePlace } from '.
 import type { ChildNews, Edit, FieldNews, Held } from './bridge.js';
 import { ListPopup } from './list.js';
 import type { Page, View } from './page.js';
+import { margin, twipsAnEm } from './sizes.js';
 
-const twipsAnEm = 160; // of the design font, whose 8 points are one em here
-export const margin = 60; // twips between the frame and what stands in it beside others
 const systemColor = 0x80000000;
 // Stands for an empty place of the masked box, whose own sign would be read aloud: a blank as wide as a digit.
 const blank = '\u2007';
@@ -99,14 +98,11 @@ export class FieldView implements View {
 
   // All that is shown, boxes and separators, as one text: what the field would hand in unchecked.
   shownText(): string {
-    const pieces: { left: number; text: string }[] = [];
-    this.children.forEach((child, place) => {
-      if (!child?.visible) return;
-      const text = place < entries ? this.textOf(place) : (child.text ?? '').trim();
-      pieces.push({ left: child.left, text });
-    });
-    pieces.sort((a, b) => a.left - b.left);
-    return pieces.some((piece, i) => piece.text !== '' && i % 2 === 0) ? pieces.map((piece) => piece.text).join('') : '';
+    const shown = this.children.filter((child) => child?.visible) as ChildNews[];
+    const texts = shown.sort((a, b) => a.left - b.left).map(({ place, text }) =>
+      place < entries ? this.textOf(place) : (text ?? '').trim(),
+    );
+    return texts.some((text, i) => text !== '' && i % 2 === 0) ? texts.join('') : '';
   }
 
   // A new field in the place of the old one.
@@ -183,17 +179,21 @@ export class FieldView implements View {
 
   private color(input: HTMLInputElement, color: number): void {
     const tinted = color < systemColor && color !== 0xffffff;
-    input.classList.toggle('tinted', tinted);
+    if (tinted !== input.classList.contains('tinted')) input.classList.toggle('tinted');
     if (!tinted) return;
     input.style.setProperty('--_tint', `rgb(${color & 255} ${(color >> 8) & 255} ${(color >> 16) & 255})`);
   }
 
   private place(element: HTMLElement, child: ChildNews): void {
     const whole = child.left === 0 && child.width >= this.width - 1;
-    element.style.left = whole ? '0' : `${(child.left + margin) / twipsAnEm}em`;
-    element.style.width = whole ? '100%' : `${child.width / twipsAnEm}em`;
-    element.classList.toggle('short', !whole && child.width < 4 * twipsAnEm);
-    element.classList.toggle('wide', whole);
+    const { classList } = element;
+    // A box of its own is as wide as the frame by its class alone.
+    if (!whole || !classList.contains('wide')) {
+      element.style.left = whole ? '' : `${(child.left + margin) / twipsAnEm}em`;
+      element.style.width = whole ? '' : `${child.width / twipsAnEm}em`;
+      classList.toggle('short', !whole && child.width < 4 * twipsAnEm);
+      classList.toggle('wide', whole);
+    }
   }
 
   private make<Name extends keyof HTMLElementTagNameMap>(name: Name, part: string): HTMLElementTagNameMap[Name] {
@@ -205,15 +205,13 @@ export class FieldView implements View {
 
   private makeEntry(child: ChildNews): HTMLInputElement {
     const input = this.make('input', 'box');
-    input.type = 'text';
-    input.hidden = true;
+    this.owner.dress(input, child.place);
     // In the order in which the Tab key visits them.
     const next = this.inputs.slice(child.place + 1).find((other) => other);
     this.owner.frame.insertBefore(input, next ?? null);
     this.inputs[child.place] = input;
     if (child.place === comboPlace) this.makeList(input);
     if (child.place === maskedPlace) input.classList.add('masked');
-    this.owner.dress(input, child.place);
     child.changes = -1;
     return input;
   }

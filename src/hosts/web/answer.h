@@ -5,7 +5,7 @@
 //   with news its place, a mask of kit::Change and what that mask names, closed by -1; the fields closed by
 //   -1.
 //
-// A text is its length and its units. web/src/wire.ts reads it.
+// A text is its length and its units. web/src/bridge.ts reads it.
 #ifndef HOSTS_WEB_ANSWER_H
 #define HOSTS_WEB_ANSWER_H
 

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "gabarito/platform/erro.h"
+#include "hosts/kit/keep_content.h"
 #include "hosts/kit/numbered_properties.h"
 #include "hosts/web/answer.h"
 #include "hosts/web/exports.h"
@@ -38,7 +39,6 @@ enum class Event : std::int32_t {
   kCreate,
   kEnd,
   kClear,
-  kRefill,
   kMunicipios,
   kCheck,
 };
@@ -64,6 +64,9 @@ Bridge& TheBridge() {
   return bridge;
 }
 
+// Twips, of one line of the design font.
+constexpr float kLine = 315;
+
 // As the child of a call: nothing is to be told yet.
 constexpr std::int32_t kUntold = -2;
 
@@ -73,12 +76,17 @@ struct Arguments {
   std::u16string_view data;
 };
 
-// Of that size, in twips.
-void Create(Bridge& bridge, std::int32_t number, std::int32_t width, std::int32_t height) {
+// Of that width in twips and that kind; what an element has to be asked for is off.
+void Create(Bridge& bridge, std::int32_t number, std::int32_t width, std::int32_t mask) {
   auto& field = bridge.fields[number];
   field = std::make_shared<WebField>(bridge.page, number);
   field->Create();
-  field->Size(static_cast<float>(width), static_cast<float>(height));
+  field->Size(static_cast<float>(width), kLine);
+  constexpr kit::Property kOff[] = {kit::Property::kAppearance, kit::Property::kMaxLength,
+                                    kit::Property::kUsarFundoPastel, kit::Property::kTrataEnterComoTab,
+                                    kit::Property::kPreencherDatasInvalidasComDataDeHoje};
+  for (const kit::Property off : kOff) kit::SetProperty(*field->Model(), off, 0, {});
+  kit::SetProperty(*field->Model(), kit::Property::kMask, mask, {});
 }
 
 // The value of a program: written, then checked without a word.
@@ -86,6 +94,12 @@ void Write(WebField& field, std::u16string_view text) {
   field.Quiet(true);
   kit::SetProperty(*field.Model(), kit::Property::kText, 0, text);
   field.CheckQuietly();
+}
+
+// The page has given the field another width: what is in it stays, which a layout alone would empty.
+void Resize(WebField& field, float width) {
+  const kit::KeepContent keep(field.Model());
+  field.Size(width, kLine);
 }
 
 void Carry(WebField& field, Event event, const Arguments& with, std::u16string& result) {
@@ -115,7 +129,7 @@ void Carry(WebField& field, Event event, const Arguments& with, std::u16string& 
     case Event::kDropDown:
       return field.DropDown(with.a != 0);
     case Event::kSize:
-      return field.Size(static_cast<float>(with.a), static_cast<float>(with.b));
+      return Resize(field, static_cast<float>(with.a));
     case Event::kSet:
       return kit::SetProperty(*field.Model(), static_cast<kit::Property>(with.a), with.b, with.data);
     case Event::kGet:
@@ -127,8 +141,6 @@ void Carry(WebField& field, Event event, const Arguments& with, std::u16string& 
       return field.CheckQuietly();
     case Event::kClear:
       return field.Model()->ApagaCampos();
-    case Event::kRefill:
-      return field.Model().Parts().surface.RaiseResize();
     default:
       return;
   }

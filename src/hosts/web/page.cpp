@@ -35,6 +35,7 @@ Page::Page() : FormModel({}) {
   services.clock = &lent.clock;
   services.kernel = &lent.kernel;
   services.regional = &lent.kernel.regional;
+  services.ambient = &lent.ambient;
   services.metric = &lent.metric;
   comfort = true;
 }

@@ -23,6 +23,16 @@ class WallClock final : public Clock {
   Date Now() const override;
 };
 
+// What stands around a field as the models see it; what is seen of it comes from the page's styles.
+class PageAmbient final : public AmbientProperties {
+ public:
+  gabarito::Color BackColor() const override { return kButtonFace; }
+  FontRef Font() const override { return font_; }
+
+ private:
+  FontRef font_ = std::make_shared<StdFont>();
+};
+
 // The messages of one field. While the page is quiet nobody hears them, and each gets its default button.
 class PageDialogs final : public Dialogs {
  public:
@@ -61,6 +71,8 @@ class Page final : public kit::FormModel {
   struct Lent {
     WallClock clock;
     kit::RegionalKernel kernel;
+    // Without one, the making of each field would fail some steps over it, and a failure is dear here.
+    PageAmbient ambient;
     // The widths of the layouts are those of the design font; the page shows them in its own, by the size of
     // that.
     kit::FixedFontMetric metric;

@@ -236,11 +236,15 @@ void TellPlace(Answer& answer, const kit::Geometry& bounds) {
   answer.Length(bounds.width);
 }
 
+// A page takes a child that it has never heard of for hidden and empty: most are, and stay so.
+enum class Telling { kNews, kAll, kWhatShows };
+
 // What entries and labels have in common; the rest follows by the bits of the mask in rising order.
 template <class Model>
-std::int32_t TellCommon(Answer& answer, Model& model, std::int32_t place, bool all) {
-  const std::int32_t changes = all ? kit::Changes::All().Bits() : model.TakeChanges().Bits();
-  if (all) model.TakeChanges();
+std::int32_t TellCommon(Answer& answer, Model& model, std::int32_t place, Telling telling, bool empty) {
+  const kit::Changes noted = model.TakeChanges();
+  if (telling == Telling::kWhatShows && empty && !model.IsVisible()) return 0;
+  const std::int32_t changes = (telling == Telling::kNews ? noted : kit::Changes::All()).Bits();
   if (changes == 0) return 0;
   answer.Number(place);
   answer.Number(changes);
@@ -253,8 +257,8 @@ std::int32_t TellCommon(Answer& answer, Model& model, std::int32_t place, bool a
 constexpr std::int32_t Bit(kit::Change change) { return static_cast<std::int32_t>(change); }
 
 template <class Model>
-std::int32_t TellEntry(Answer& answer, Model& model, std::int32_t place, bool all) {
-  const std::int32_t changes = TellCommon(answer, model, place, all);
+std::int32_t TellEntry(Answer& answer, Model& model, std::int32_t place, Telling telling) {
+  const std::int32_t changes = TellCommon(answer, model, place, telling, model.Entry().Text().empty());
   if (changes == 0) return 0;
   answer.Number(model.IsEnabled() ? 1 : 0);
   answer.Number(model.Limit());
@@ -268,19 +272,21 @@ std::int32_t TellEntry(Answer& answer, Model& model, std::int32_t place, bool al
 
 void WebField::TellNews(Answer& answer) {
   const auto parts = model_.SharedParts();
-  const bool all = !std::exchange(told_, true);
+  const Telling telling = std::exchange(told_, true)    ? Telling::kNews
+                          : std::exchange(known_, true) ? Telling::kAll
+                                                        : Telling::kWhatShows;
   std::int32_t place = 0;
   for (kit::InputModel* const child : parts->InTabOrder()) {
     switch (child->Kind()) {
       case kit::InputKind::kTextBox:
-        TellEntry(answer, static_cast<kit::TextBoxModel&>(*child), place, all);
+        TellEntry(answer, static_cast<kit::TextBoxModel&>(*child), place, telling);
         break;
       case kit::InputKind::kMasked:
-        TellEntry(answer, static_cast<kit::MaskedModel&>(*child), place, all);
+        TellEntry(answer, static_cast<kit::MaskedModel&>(*child), place, telling);
         break;
       case kit::InputKind::kCombo: {
         auto& combo = static_cast<kit::ComboModel&>(*child);
-        if (TellEntry(answer, combo, place, all) == 0) break;
+        if (TellEntry(answer, combo, place, telling) == 0) break;
         answer.Number(combo.ListCount());
         answer.Number(combo.Selected());
         answer.Number(combo.DroppedDown() ? 1 : 0);
@@ -290,7 +296,7 @@ void WebField::TellNews(Answer& answer) {
     ++place;
   }
   for (kit::LabelModel& label : parts->lbl_controle) {
-    if (TellCommon(answer, label, place++, all) != 0) answer.Text(label.Shown());
+    if (TellCommon(answer, label, place++, telling, true) != 0) answer.Text(label.Shown());
   }
   answer.Number(kNowhere);
 }

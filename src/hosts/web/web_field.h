@@ -90,7 +90,8 @@ class WebField {
   PageDialogs dialogs_;
   kit::FieldModel model_;
   std::u16string value_;  // as the page knows it
-  bool told_ = false;
+  bool told_ = false;     // of this life
+  bool known_ = false;    // of an earlier one
 
   Verdict verdict_ = Verdict::kNative;
   bool waiting_ = false;  // the queue waits until the entry has acted

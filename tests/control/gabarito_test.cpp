@@ -21,15 +21,22 @@ struct Fields : testing::Test {
   }
 };
 
-TEST_F(Fields, AHandlerOfKeyUpMayTakeItselfAway) {
-  int calls = 0;
-  const std::string large(100, 'x');  // what the handler carries goes with it, not while it runs
-  field->KeyUp([&calls, this, large](std::int16_t&, std::int16_t&) {
+TEST_F(Fields, AHandlerOfKeyUpMayBeReplacedWhileItRuns) {
+  std::string calls;
+  // What a handler carries goes with it, not while it runs, and may set the next one when it goes.
+  auto last_words = std::shared_ptr<void>(
+      nullptr, [&](void*) { field->KeyUp([&calls](std::int16_t&, std::int16_t&) { calls += "after"; }); });
+  const auto first = [&calls, this, large = std::string(100, 'x')](std::int16_t&, std::int16_t&) {
     field->KeyUp({});
-    calls += static_cast<int>(large.size()) / 100;
+    calls += large.substr(99);
+  };
+  field->KeyUp([first, carried = std::move(last_words)](std::int16_t& code, std::int16_t& shift) {
+    first(code, shift);
   });
-  form.Type(u"ab");
-  EXPECT_EQ(calls, 1);
+  form.Type(u"a");
+  EXPECT_EQ(calls, "x");
+  form.Type(u"b");
+  EXPECT_EQ(calls, "xafter");
 }
 
 TEST_F(Fields, TextTakesWhatAChildShows) {

@@ -102,8 +102,6 @@ void Gabarito::TrataEnterComoTab(bool valor) {
 bool Gabarito::CNPJAlfanumerico() const { return c->mCNPJAlfanumerico; }
 void Gabarito::CNPJAlfanumerico(bool valor) { PoeCNPJAlfanumerico(*Vivo(), valor); }
 
-void Gabarito::KeyUp(KeyUpHandler handler) {
-  c->aoKeyUp = handler ? std::make_shared<const FuncaoKeyUp>(std::move(handler)) : nullptr;
-}
+void Gabarito::KeyUp(KeyUpHandler handler) { c->aoKeyUp.Poe(std::move(handler)); }
 
 }  // namespace gabarito

@@ -21,19 +21,19 @@ std::int16_t Contagem(std::int32_t lida) {
 
 // The text that the box would hold with the key at its end, whatever the caret.
 struct Candidato {
-  std::u16string_view antes;          // what it holds in front of the key
-  std::u16string_view antesDoCursor;  // what stands before the caret
-  bool substituiTudo = false;         // the key replaces the whole text
-  bool cheia = false;                 // the box holds as much as its limit allows
+  std::u16string_view texto;   // what the box holds
+  std::u16string_view antes;   // what it holds in front of the key
+  bool substituiTudo = false;  // the key replaces the whole text
+  bool cheia = false;          // the box holds as much as its limit allows
 };
 
 // Piece by piece: what a read that fails leaves out keeps its first value. So a text that the box does not
 // give, or one too long to count, leaves the key to be judged by itself.
-void LeCandidato(const TextBox& txt, std::int16_t inicio, std::int16_t selecao, Candidato& candidato) {
+void LeCandidato(const TextBox& txt, std::int16_t selecao, Candidato& candidato) {
   const std::u16string_view texto = txt.Text();
   if (texto.size() > kMaiorTextoPercorrido) return;
   const std::int32_t tamanho = Len(texto);
-  candidato.antesDoCursor = Left(texto, inicio);
+  candidato.texto = texto;
   candidato.substituiTudo = selecao == tamanho && tamanho > 0;
   if (candidato.substituiTudo) return;
   candidato.antes = texto;
@@ -42,10 +42,10 @@ void LeCandidato(const TextBox& txt, std::int16_t inicio, std::int16_t selecao, 
 
 // A letter of a CNPJ passes as its capital, all else as the rule of the kind says.
 Desfecho JulgaTecla(const Campo& c, const RegraDeTecla& regra, std::int16_t Index, const Candidato& candidato,
-                    std::int16_t& KeyAscii) {
+                    std::int16_t inicio, std::int16_t& KeyAscii) {
   const char16_t caractere = Chr(KeyAscii);
   if (c.mCNPJAlfanumerico) {
-    if (const char16_t letra = LetraNoLugar(regra, candidato.antesDoCursor, caractere); letra != 0) {
+    if (const char16_t letra = LetraNoLugar(regra, Left(candidato.texto, inicio), caractere); letra != 0) {
       KeyAscii = static_cast<std::int16_t>(letra);
       return Desfecho::kPassa;
     }
@@ -94,9 +94,9 @@ void EntradaKeyPress(Campo& c, const RegraDeTecla& regra, TextBox& txt, std::int
   }
 
   Candidato candidato;
-  pula([&] { LeCandidato(txt, inicio, selecao, candidato); });
+  pula([&] { LeCandidato(txt, selecao, candidato); });
   Desfecho desfecho = Desfecho::kPassa;
-  pula([&] { desfecho = JulgaTecla(c, regra, Index, candidato, KeyAscii); });
+  pula([&] { desfecho = JulgaTecla(c, regra, Index, candidato, inicio, KeyAscii); });
   if (candidato.cheia) pula([&] { c.Dialogs->Beep(); });
   if (desfecho == Desfecho::kRejeita) {
     pula([&] { c.Dialogs->Beep(); });

@@ -17,7 +17,7 @@ struct KeyName {
 };
 
 // Written in the order of the keys and sorted by name while compiling: there is nothing to fill at the first
-// use, and a look-up is six comparisons.
+// use, and a look-up compares with the names of one first letter.
 constexpr auto kKeyNames = [] {
   std::array<KeyName, 46> names = {{
       {u"BACKSPACE", 8, false},    {u"BS", 8, false},          {u"BKSP", 8, false},
@@ -59,15 +59,27 @@ constexpr std::size_t kLongestName = [] {
   return longest;
 }();
 
+// Where the names of each first letter begin; the last number is the end of those of Z.
+constexpr auto kFirstOfLetter = [] {
+  std::array<std::uint8_t, 27> first{};
+  for (std::size_t letter = 0; letter < first.size(); ++letter) {
+    while (first[letter] < kKeyNames.size() && kKeyNames[first[letter]].name[0] < u'A' + letter)
+      ++first[letter];
+  }
+  return first;
+}();
+
 const KeyName* Find(std::u16string_view name) {
-  if (name.size() > kLongestName) return nullptr;
+  if (name.empty() || name.size() > kLongestName) return nullptr;
   std::array<char16_t, kLongestName> buffer;
   for (std::size_t i = 0; i < name.size(); ++i) buffer[i] = UCase(name[i]);
   const std::u16string_view capitals(buffer.data(), name.size());
-  const auto* const found =
-      std::lower_bound(kKeyNames.begin(), kKeyNames.end(), capitals,
-                       [](const KeyName& key, std::u16string_view sought) { return key.name < sought; });
-  return found != kKeyNames.end() && found->name == capitals ? found : nullptr;
+  if (buffer[0] < u'A' || buffer[0] > u'Z') return nullptr;
+  const auto letter = static_cast<std::size_t>(buffer[0] - u'A');
+  for (std::size_t i = kFirstOfLetter[letter]; i < kFirstOfLetter[letter + 1]; ++i) {
+    if (kKeyNames[i].name == capitals) return &kKeyNames[i];
+  }
+  return nullptr;
 }
 
 }  // namespace

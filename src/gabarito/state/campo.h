@@ -6,20 +6,17 @@
 
 #include <array>
 #include <cstdint>
-#include <functional>
 #include <memory>
 #include <string>
 
 #include "gabarito/platform/collection.h"
 #include "gabarito/platform/host.h"
 #include "gabarito/rules/arredonda.h"
+#include "gabarito/state/evento_key_up.h"
 #include "gabarito/state/mascaras.h"
 #include "gabarito/state/referencia.h"
 
 namespace gabarito {
-
-// The program's handler of KeyUp; see control/gabarito.h.
-using FuncaoKeyUp = std::function<void(std::int16_t& KeyCode, std::int16_t& Shift)>;
 
 // The children and the services come from the host. Invariants: after the first
 // AplicaAparencia the three active boxes are set and belong to one array; mMaxLength is never negative;
@@ -44,14 +41,11 @@ struct Campo : Host {
 
   CacheDeArredonda arredonda;
 
-  std::shared_ptr<const FuncaoKeyUp> aoKeyUp;
+  EventoKeyUp aoKeyUp;
   // Raises the public event. Both arguments hold afterwards what the program left in them.
-  void KeyUp(std::int16_t& KeyCode, std::int16_t& Shift) const {
-    // Held while it runs: a handler may put another one in its own place.
-    if (const auto handler = aoKeyUp) (*handler)(KeyCode, Shift);
-  }
+  void KeyUp(std::int16_t& KeyCode, std::int16_t& Shift) { aoKeyUp.Levanta(KeyCode, Shift); }
   // The same for Enter that was turned into Tab and for a jump: 13 and 0.
-  void KeyUpDeEnter() const;
+  void KeyUpDeEnter();
 
   // The present moment and the reading of texts by the region of the host.
   Date Agora() const { return Clock->Now(); }
@@ -61,7 +55,10 @@ struct Campo : Host {
 };
 
 // The box of an array; raises 9 on an index outside 0 to 2, which only a host can make up.
-TextBox& CaixaDe(const std::array<TextBox*, 3>& caixas, std::int16_t indice);
+inline TextBox& CaixaDe(const std::array<TextBox*, 3>& caixas, std::int16_t indice) {
+  if (indice < 0 || indice > 2) throw Erro(kSubscriptOutOfRange);
+  return *caixas[static_cast<std::size_t>(indice)];
+}
 
 }  // namespace gabarito
 

@@ -117,7 +117,6 @@ class InputChildModel : public ChildModel<Interface>, public InputModel {
   std::string_view Name() const override { return this->design_.name; }
   Control& Owner() override;
   bool CanTakeFocus() const override;
-  InputModel* Input() override { return this; }
 
   InputChild& AsChild() override { return *this; }
 

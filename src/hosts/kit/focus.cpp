@@ -28,8 +28,7 @@ void Focus::Move(Focusable& receiver) {
   receiver.GotFocus();
 }
 
-void Focus::Settle() {
-  if (!unsettled_ || frozen_) return;
+void Focus::SettleNow() {
   unsettled_ = false;
   if (focused_ == nullptr || focused_->CanTakeFocus()) return;
   Focusable* const surface = focused_->Owner().Surface();

@@ -27,7 +27,9 @@ class Focus {
   void Move(Focusable& receiver);
 
   // Gives the focus of a part that cannot keep it to the surface of its control; see UserControl::Settle.
-  void Settle();
+  void Settle() {
+    if (unsettled_ && !frozen_) SettleNow();
+  }
   // A part has been hidden or disabled: the next Settle has something to look at.
   void Unsettle() { unsettled_ = true; }
 
@@ -40,6 +42,8 @@ class Focus {
   void Forget(Control& control);
 
  private:
+  void SettleNow();
+
   Recorder*& recorder_;
   Focusable* focused_ = nullptr;
   Focusable* receiver_ = nullptr;  // of the move in progress

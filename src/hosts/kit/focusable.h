@@ -15,6 +15,7 @@ class InputModel;
 // somebody else.
 class Focusable {
  public:
+  Focusable() = default;
   virtual ~Focusable() = default;
 
   // "before", "Combo1", "txt_entrada3D(1)"; "field" for a surface.
@@ -28,7 +29,13 @@ class Focusable {
   virtual void LostFocus() {}
 
   // The child of a field behind it; null for anything else.
-  virtual InputModel* Input() { return nullptr; }
+  InputModel* Input() const { return input_; }
+
+ protected:
+  explicit Focusable(InputModel* input) : input_(input) {}
+
+ private:
+  InputModel* input_ = nullptr;
 };
 
 // A hold on the parts of a control; see Control::Hold.

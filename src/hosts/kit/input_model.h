@@ -17,7 +17,7 @@ enum class InputKind { kTextBox, kCombo, kMasked };
 
 class InputModel : public Focusable {
  public:
-  InputModel(InputKind kind, FieldParts& parts) : kind_(kind), of_(parts) {}
+  InputModel(InputKind kind, FieldParts& parts) : Focusable(this), kind_(kind), of_(parts) {}
 
   InputKind Kind() const { return kind_; }
   virtual InputChild& AsChild() = 0;

@@ -30,11 +30,8 @@ bool IsFull(InputModel& child) {
   return child.Limit() > 0 && size - box.SelLength() >= child.Limit();
 }
 
-}  // namespace
-
-char16_t RaiseKeyPress(InputModel& child, char16_t character) {
-  FieldParts& parts = child.Parts();
-  if (!parts.form->comfort) return child.KeyPress(character);
+// With comfort on. A function of its own, so that a key without comfort does not pay for it.
+char16_t PressOrStepOver(InputModel& child, FieldParts& parts, char16_t character) {
   const SeparatorStep step = StepOver(child, character);
   if (step.to == nullptr && !step.passed) return child.KeyPress(character);
   parts.dialogs.HoldBeeps();
@@ -53,6 +50,13 @@ char16_t RaiseKeyPress(InputModel& child, char16_t character) {
     for (; beeps > 0; --beeps) parts.dialogs.Beep();
   }
   return taken;
+}
+
+}  // namespace
+
+char16_t RaiseKeyPress(InputModel& child, char16_t character) {
+  FieldParts& parts = child.Parts();
+  return parts.form->comfort ? PressOrStepOver(child, parts, character) : child.KeyPress(character);
 }
 
 void IntoModel(InputModel& child, const KeyEvent& event, std::u16string& clipboard) {

@@ -211,9 +211,8 @@ char16_t KeyboardLayout::CharacterOf(std::int16_t vk, std::int16_t shift, bool c
   if (vk < 0 || vk > 255) return 0;
   const Key& key = tables_->keys[static_cast<std::size_t>(vk)];
   const bool shifted = (shift & kShiftMask) != 0;
+  if ((shift & kAltGr) == 0) return shifted != (capsLock && IsLetterKey(key)) ? key.shifted : key.plain;
   switch (shift & kAltGr) {
-    case 0:
-      return shifted != (capsLock && IsLetterKey(key)) ? key.shifted : key.plain;
     case kCtrlMask:
       return !shifted || (vk >= 'A' && vk <= 'Z') ? key.control : char16_t{0};
     case kAltGr:

@@ -106,6 +106,10 @@ void Delete(TextLine& line) {
 }
 
 void TypeInto(TextLine& line, char16_t character, std::int32_t limit, std::u16string& clipboard) {
+  if (character >= u' ') {
+    line.Replace({&character, 1}, limit);
+    return;
+  }
   switch (character) {
     case kBackspace:
       Backspace(line);
@@ -120,7 +124,6 @@ void TypeInto(TextLine& line, char16_t character, std::int32_t limit, std::u16st
       if (!FirstLine(clipboard).empty()) line.Replace(FirstLine(clipboard), limit);
       break;
     default:
-      if (character >= u' ') line.Replace({&character, 1}, limit);
       break;
   }
 }
@@ -186,7 +189,7 @@ void ActOnCharacter(InputModel& child, char16_t character, std::u16string& clipb
     box.Edited();
   } else {
     auto& box = static_cast<TextBoxModel&>(child);
-    TypeInto(box.Entry(), character, box.Limit(), clipboard);
+    TypeInto(box.Entry(), character, box.MaxLength(), clipboard);
     box.NoteEdit();
   }
 }

@@ -18,7 +18,11 @@ void TextLine::Text(std::u16string_view text) {
 void TextLine::CopyOf(const TextLine& other) {
   const bool again = twin_ == &other && other.twin_ == this;
   const std::size_t kept = again ? std::min(same_, other.same_) : 0;
-  text_.replace(kept, std::u16string::npos, other.text_, kept);
+  if (kept == text_.size() && kept + 1 == other.text_.size()) {
+    text_.push_back(other.text_.back());  // the usual case: a person types on
+  } else {
+    text_.replace(kept, std::u16string::npos, other.text_, kept);
+  }
   twin_ = &other;
   other.twin_ = this;
   same_ = other.same_ = text_.size();
@@ -48,8 +52,8 @@ bool TextLine::Replace(std::u16string_view text, std::int32_t limit) {
     if (text.empty()) return false;
   }
   Changed(static_cast<std::size_t>(start_));
-  if (start_ == Size()) {
-    text_.append(text);  // the usual case: a person types on
+  if (start_ == Size() && text.size() == 1) {
+    text_.push_back(text.front());  // the usual case: a person types on
   } else {
     text_.replace(static_cast<std::size_t>(start_), static_cast<std::size_t>(length_), text);
   }

@@ -21,6 +21,7 @@ class Form::OwnModel final : public kit::FormModel {
 
  private:
   void Deliver(const kit::KeyEvent& event) override;
+  void IntoOwn(kit::Focusable& receiver, const kit::KeyEvent& event);
 
   Form& form_;
 };
@@ -33,12 +34,15 @@ void Form::OwnModel::Deliver(const kit::KeyEvent& event) {
   }
   kit::Focusable* const receiver = focus.Focused();
   if (receiver == nullptr || !receiver->CanTakeFocus()) return;
-  const std::int16_t vk = event.unicode != 0 ? kVkPacket : event.vk;
   if (kit::InputModel* const child = receiver->Input())
     return kit::IntoModel(*child, event, form_.clipboard_);
-  auto* const own = dynamic_cast<OwnControl*>(receiver);
+  IntoOwn(*receiver, event);
+}
+
+void Form::OwnModel::IntoOwn(kit::Focusable& receiver, const kit::KeyEvent& event) {
+  auto* const own = dynamic_cast<OwnControl*>(&receiver);
   if (own == nullptr || event.up) return;
-  own->KeyDown(vk, event.shift);
+  own->KeyDown(event.unicode != 0 ? kVkPacket : event.vk, event.shift);
   if (const char16_t character = keyboard.CharacterOf(event)) own->Character(character);
 }
 

@@ -128,6 +128,7 @@ export class GabaritoField extends FieldValue implements Owner {
 
   adoptedCallback(): void {
     styleRoot(this.root);
+    this.view?.page.watch(this.ownerDocument);
   }
 
   private upgrade(name: (typeof early)[number]): void {

@@ -1,4 +1,5 @@
-// axe-core over the playground, every kind in every state; and what it cannot know: names, sizes, the value aloud.
+// axe-core over the playground, every kind in every state; and what it cannot know: names, sizes, the value
+// aloud.
 import assert from 'node:assert/strict';
 import { after, before, describe, test } from 'node:test';
 import axe from 'axe-core';
@@ -24,7 +25,10 @@ describe('accessibility', () => {
     await page.setViewport({ width, height: 900 });
     await page.emulateMediaFeatures(features);
     await page.goto(`${server.address}playground/`);
-    await page.waitForFunction(() => [...document.querySelectorAll('gabarito-field')].every((it) => it.shadowRoot.querySelector('.box:not(.plain)')));
+    await page.evaluate(() => {
+      const root = (id) => document.getElementById(id).shadowRoot;
+      globalThis.boxes = (id) => [...root(id).querySelectorAll('.box:not([hidden])')];
+    });
     await page.waitForFunction(() => document.querySelector('#municipio').comboListCount === 5652);
     return page;
   }
@@ -32,7 +36,8 @@ describe('accessibility', () => {
   async function findings(page) {
     await page.evaluate(axe.source);
     const { violations } = await page.evaluate(() => axe.run());
-    return violations.flatMap(({ id, nodes }) => nodes.map((node) => `${id}: ${node.target} ${node.failureSummary}`));
+    return violations.flatMap(({ id, nodes }) => nodes.map((it) =>
+      `${id} ${it.target} ${it.failureSummary}`));
   }
 
   const dark = [{ name: 'prefers-color-scheme', value: 'dark' }];
@@ -42,12 +47,17 @@ describe('accessibility', () => {
     ['dark', { features: dark }, async () => {}],
     ['forced colours', {}, async (page) => {
       const cdp = await page.createCDPSession();
-      await cdp.send('Emulation.setEmulatedMedia', { features: [{ name: 'forced-colors', value: 'active' }] });
+      const features = [{ name: 'forced-colors', value: 'active' }];
+      await cdp.send('Emulation.setEmulatedMedia', { features });
     }],
     ['with a value in every kind', {}, (page) => page.evaluate(() => {
-      const values = { nome: 'Ana', cpf: '11144477735', nascimento: '05/03/2024', email: 'a@b.com', telefone: '1133334444', cep: '01310-100',
-        municipio: 'SAO PAULO/SP', estado: 'SP', cidade: 'Campinas/SP', cnpj: '11222333000181', cartao: '4111111111111111', validade: '03/2024',
-        valor: '1234,5', forma: 'Pix', livre: 'x', codigo: 'a1', hora: '09:05', inteiro: '7', real: '1,5', versao: '1,2', intervalo: '1#2', placa: 'ABC-1234' };
+      const values = {
+        nome: 'Ana', cpf: '11144477735', nascimento: '05/03/2024', email: 'a@b.com', telefone: '1133334444',
+        cep: '01310-100', municipio: 'SAO PAULO/SP', estado: 'SP', cidade: 'Campinas/SP',
+        cnpj: '11222333000181', cartao: '4111111111111111', validade: '03/2024', valor: '1234,5',
+        forma: 'Pix', livre: 'x', codigo: 'a1', hora: '09:05', inteiro: '7', real: '1,5', versao: '1,2',
+        intervalo: '1#2', placa: 'ABC-1234',
+      };
       for (const [id, value] of Object.entries(values)) document.getElementById(id).value = value;
     })],
     ['refused', {}, async (page) => {
@@ -55,7 +65,7 @@ describe('accessibility', () => {
       await (await Keyboard.on(page)).page.keyboard.type('11144477734');
       await page.keyboard.press('Tab');
       await settle(page);
-      assert.equal(await page.evaluate(() => document.querySelector('#cpf').shadowRoot.querySelector('input').getAttribute('aria-invalid')), 'true');
+      assert.equal(await page.evaluate(() => boxes('cpf')[0].getAttribute('aria-invalid')), 'true');
     }],
     ['refused, dark', { features: dark }, async (page) => {
       await page.evaluate(() => document.querySelector('#cpf').focus());
@@ -65,7 +75,7 @@ describe('accessibility', () => {
     ['with its list open', {}, async (page) => {
       await page.evaluate(() => document.querySelector('#municipio').focus());
       await page.keyboard.type('sao');
-      const open = await page.evaluate(() => document.querySelector('#municipio').shadowRoot.querySelector('[role=combobox]').getAttribute('aria-expanded'));
+      const open = await page.evaluate(() => boxes('municipio')[0].getAttribute('aria-expanded'));
       assert.equal(open, 'true');
     }],
     ['disabled', {}, (page) => page.click('#desligado')],
@@ -87,12 +97,11 @@ describe('accessibility', () => {
   test('each box is named, the list follows the pattern, an empty place is not read aloud', async () => {
     const page = await playground();
     const told = await page.evaluate(() => {
-      const boxes = (id) => [...document.getElementById(id).shadowRoot.querySelectorAll('.box:not([hidden])')];
       const list = boxes('municipio')[0];
       return {
         date: boxes('nascimento').map((box) => box.getAttribute('aria-label')),
         city: boxes('cidade').map((box) => box.getAttribute('aria-label')),
-        combo: [list.getAttribute('role'), list.getRootNode().getElementById(list.getAttribute('aria-controls')).getAttribute('role')],
+        combo: [list.role, list.getRootNode().getElementById(list.getAttribute('aria-controls')).role],
         mask: boxes('placa')[0].value.includes('_'),
         modes: ['cpf', 'valor', 'telefone', 'email'].map((id) => boxes(id)[0].inputMode),
       };
@@ -119,7 +128,7 @@ describe('accessibility', () => {
       }).map((part) => `${it.id} ${part.className}`)));
     assert.deepEqual(small, []);
     await page.evaluate(() => document.querySelector('#nome').focus());
-    const outline = await page.evaluate(() => getComputedStyle(document.querySelector('#nome').shadowRoot.querySelector('.frame')).outlineStyle);
+    const outline = await page.evaluate(() => getComputedStyle(nome.frame).outlineStyle);
     assert.equal(outline, 'solid');
     await page.close();
   });

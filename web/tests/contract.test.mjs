@@ -1,4 +1,5 @@
-// Every story of tests/contract in a real browser: the same lines as the in-memory host's, which the stories hold.
+// Every story of tests/contract in a real browser: the same lines as the in-memory host's, which the stories
+// hold.
 import assert from 'node:assert/strict';
 import { readFile, readdir } from 'node:fs/promises';
 import path from 'node:path';
@@ -65,7 +66,8 @@ for (const browser of (process.env.BROWSERS ?? 'chromium firefox').split(' ')) {
     after(() => player.close());
     for (const file of chosen) {
       test(file, async (context) => {
-        const { skipped, differences } = await compare(player, await readFile(path.join(stories, file), 'utf8'));
+        const story = await readFile(path.join(stories, file), 'utf8');
+        const { skipped, differences } = await compare(player, story);
         if (skipped) return context.skip('for other stages');
         assert.deepEqual(differences, []);
         return undefined;

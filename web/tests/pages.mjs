@@ -1,4 +1,5 @@
 // Pages of the tests: one HTML text each, under a strict policy, with the package beside it.
+import assert from 'node:assert/strict';
 import { after, before } from 'node:test';
 import { launch, settle } from '../script/browsers.mjs';
 import { Keyboard } from '../script/keyboard.mjs';
@@ -6,18 +7,19 @@ import { serve } from '../serve.mjs';
 
 const dist = new URL('../dist/', import.meta.url).pathname;
 const policy =
-  "default-src 'none'; img-src 'self'; script-src 'self' 'wasm-unsafe-eval'; style-src 'self'; connect-src 'self'; " +
-  "require-trusted-types-for 'script'; trusted-types 'none'";
+  "default-src 'none'; img-src 'self'; script-src 'self' 'wasm-unsafe-eval'; style-src 'self'; " +
+  "connect-src 'self'; require-trusted-types-for 'script'; trusted-types 'none'";
 
 export const browsers = (process.env.BROWSERS ?? 'chromium firefox').split(' ');
 
-// What the tests ask of a field again and again, in the page: `f.id` is the element, `f.state(id)` what it shows.
+// What the tests ask of a field again and again, in the page: `f.id` is the element.
 const helper = `
 globalThis.f = new Proxy({
   boxes: (id) => [...document.getElementById(id).shadowRoot.querySelectorAll('.box:not([hidden])')],
   texts: (id) => f.boxes(id).map((box) => box.value),
   active: (id) => f.boxes(id).indexOf(document.getElementById(id).shadowRoot.activeElement),
   said: (id) => document.getElementById(id).shadowRoot.querySelector('.message')?.textContent ?? '',
+  submits: () => events.filter((it) => it.startsWith('submit')).length,
   ready: () => Promise.all([...document.querySelectorAll('gabarito-field')].map(async (field) => {
     while (!field.shadowRoot.querySelector('.box:not(.plain)')) await new Promise((go) => setTimeout(go, 5));
   })),
@@ -67,11 +69,13 @@ export function browserFixture(name) {
       fixture.refuse = undefined;
     }
   };
-  fixture.open = async (body, { ready = true, head = '<script type="module" src="/gabarito.js"></script>' } = {}) => {
+  const script = '<script type="module" src="/gabarito.js"></script>';
+  fixture.open = async (body, { ready = true, head = script } = {}) => {
     const address = `/test${fixture.pages.size}.html`;
     fixture.pages.set(
       address,
-      `<!doctype html><html lang="pt-BR"><title>Teste</title><script src="/helper.js"></script>${head}<body><main>${body}</main>`,
+      `<!doctype html><html lang="pt-BR"><title>Teste</title><script src="/helper.js"></script>${head}
+      <body><main>${body}</main>`,
     );
     const page = await fixture.browser.newPage();
     page.faults = [];
@@ -81,9 +85,10 @@ export function browserFixture(name) {
     if (ready) await page.evaluate(() => f.ready());
     page.keys = await Keyboard.on(page, name);
     page.write = async (text) => {
-      for (const character of text) await page.keys.key({ vk: 0, shift: 0, character: character.charCodeAt(0) });
+      for (const letter of text) await page.keys.key({ vk: 0, shift: 0, character: letter.charCodeAt(0) });
       await settle(page);
     };
+    page.tells = async (ask, expected) => assert.deepEqual(await page.evaluate(ask), expected);
     page.press = async (key, shift = 0) => {
       await page.keys.named(key, shift);
       await settle(page);

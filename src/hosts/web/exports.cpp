@@ -2,7 +2,6 @@
 // web/src/bridge.ts.
 #include <algorithm>
 #include <array>
-#include <map>
 #include <memory>
 #include <utility>
 #include <vector>
@@ -51,8 +50,8 @@ struct Call {
 struct Bridge {
   std::vector<std::int32_t> buffer;
   std::shared_ptr<Page> page = std::make_shared<Page>();
-  std::map<std::int32_t, std::shared_ptr<WebField>> fields;
-  std::function<void(const Erro&)> on_error;  // null: the page is told
+  std::vector<std::shared_ptr<WebField>> fields;  // by number; null where none is any more
+  std::function<void(const Erro&)> on_error;      // null: the page is told
   // Ended inside a call of its own: kept until the outermost call is over.
   std::vector<std::shared_ptr<WebField>> ended;
   int depth = 0;
@@ -62,6 +61,14 @@ struct Bridge {
 Bridge& TheBridge() {
   static Bridge bridge;
   return bridge;
+}
+
+// The place of a field; numbers are given out in order, beginning with 1.
+std::shared_ptr<WebField>& PlaceOf(std::int32_t number) {
+  auto& fields = TheBridge().fields;
+  const auto at = static_cast<std::size_t>(number);
+  if (at >= fields.size()) fields.resize(at + 1);
+  return fields[at];
 }
 
 // Twips, of one line of the design font.
@@ -77,9 +84,8 @@ struct Arguments {
 };
 
 // Of that width in twips and that kind; what an element has to be asked for is off.
-void Create(Bridge& bridge, std::int32_t number, std::int32_t width, std::int32_t mask) {
-  auto& field = bridge.fields[number];
-  field = std::make_shared<WebField>(bridge.page, number);
+void Create(std::int32_t number, std::int32_t width, std::int32_t mask) {
+  const auto field = PlaceOf(number) = std::make_shared<WebField>(TheBridge().page, number);
   field->Create();
   field->Size(static_cast<float>(width), kLine);
   constexpr kit::Property kOff[] = {kit::Property::kAppearance, kit::Property::kMaxLength,
@@ -147,7 +153,7 @@ void Carry(WebField& field, Event event, const Arguments& with, std::u16string& 
 }
 
 void Run(Bridge& bridge, std::int32_t number, Event event, const Arguments& with, std::u16string& result) {
-  if (event == Event::kCreate) return Create(bridge, number, with.a, with.b);
+  if (event == Event::kCreate) return Create(number, with.a, with.b);
   if (event == Event::kLeave) {
     TheBridge().page->focus.Move(TheBridge().page->Place(with.a));
     return TheBridge().page->Run();
@@ -156,16 +162,15 @@ void Run(Bridge& bridge, std::int32_t number, Event event, const Arguments& with
     OwnMunicipios(with.data);
     return;
   }
-  const auto found = bridge.fields.find(number);
-  if (found == bridge.fields.end()) return;
+  WebField* const field = PlaceOf(number).get();
+  if (field == nullptr) return;
   if (event == Event::kEnd) {
-    found->second->Model().End();
-    bridge.ended.push_back(std::move(found->second));
-    bridge.fields.erase(found);
+    field->Model().End();
+    bridge.ended.push_back(std::move(PlaceOf(number)));
     return;
   }
-  found->second->HandOver(with.held);
-  Carry(*found->second, event, with, result);
+  field->HandOver(with.held);
+  Carry(*field, event, with, result);
 }
 
 std::int32_t FocusedField() {
@@ -217,9 +222,8 @@ const std::int32_t* Handle(std::int32_t number, std::int32_t eventNumber, std::i
 
   Answer& answer = bridge.answer;
   answer.Clear();
-  const auto found = bridge.fields.find(number);
-  if (found != bridge.fields.end()) {
-    found->second->TellVerdict(answer);
+  if (const auto& field = PlaceOf(number)) {
+    field->TellVerdict(answer);
   } else {
     answer.Number(static_cast<std::int32_t>(Verdict::kNative));
     answer.Number(0);
@@ -235,8 +239,7 @@ const std::int32_t* Handle(std::int32_t number, std::int32_t eventNumber, std::i
   std::array<std::int32_t, 3> told = {before[0], before[1], FocusedField()};
   for (std::size_t i = 0; i < told.size(); ++i) {
     if (std::find(told.begin(), told.begin() + i, told[i]) != told.begin() + i) continue;
-    if (const auto field = bridge.fields.find(told[i]); field != bridge.fields.end())
-      field->second->TellField(answer);
+    if (const auto& field = PlaceOf(told[i])) field->TellField(answer);
   }
   answer.Number(kNowhere);
   return answer.Data();
@@ -246,7 +249,7 @@ void Use(std::shared_ptr<Page> page, std::shared_ptr<WebField> field,
          std::function<void(const Erro&)> onError) {
   Bridge& bridge = TheBridge();
   bridge.fields.clear();
-  bridge.fields[field->Number()] = std::move(field);
+  PlaceOf(field->Number()) = field;
   bridge.page = std::move(page);
   bridge.on_error = std::move(onError);
 }
@@ -254,9 +257,9 @@ void Use(std::shared_ptr<Page> page, std::shared_ptr<WebField> field,
 const std::int32_t* ListEntry(std::int32_t number, std::int32_t index) {
   Bridge& bridge = TheBridge();
   bridge.answer.Clear();
-  const auto found = bridge.fields.find(number);
-  const bool there = found != bridge.fields.end() && index >= 0 && index <= INT16_MAX;
-  bridge.answer.Text(there ? found->second->Model().Parts().Combo1.List(static_cast<std::int16_t>(index))
+  const auto& field = PlaceOf(number);
+  const bool there = field != nullptr && index >= 0 && index <= INT16_MAX;
+  bridge.answer.Text(there ? field->Model().Parts().Combo1.List(static_cast<std::int16_t>(index))
                            : std::u16string_view());
   return bridge.answer.Data();
 }

@@ -5,16 +5,18 @@ import { Page } from './page.js';
 
 let page: Promise<Page> | undefined;
 let address = () => new URL('./gabarito.wasm', import.meta.url);
-const table = () => new URL('./municipios.txt', address());
+let table = () => new URL('./municipios.txt', import.meta.url);
 
 // Where the module lies when it is not beside this script, as after a bundler that does not take it along. Before
 // the first field is on the page.
 export function setModuleAddress(url: string | URL): void {
   address = () => new URL(url, document.baseURI);
+  table = () => new URL('./municipios.txt', address());
 }
 
 GabaritoField.source = () => {
-  page ??= new Page(table).load(fetch(address()));
+  // A moment later: fields that stand on the page already come before the script that imports this one.
+  page ??= Promise.resolve().then(() => new Page(table).load(fetch(address())));
   return page;
 };
 

@@ -26,7 +26,8 @@ describe('an outside consumer', () => {
     await writeFile(
       path.join(project, 'index.html'),
       '<!doctype html><html lang="pt-BR"><title>c</title><script type="module" src="./main.js"></script>' +
-        '<form id="form"><gabarito-field id=cpf name="cpf" mask="cpf" value="11144477735"></gabarito-field>',
+        '<form id="form"><gabarito-field id=cpf name="cpf" mask="cpf" value="11144477735"></gabarito-field>' +
+        '<gabarito-field id="municipio" mask="gbCidadeEstadoPopulado"></gabarito-field></form>',
     );
     browser = await launch('chromium');
   });
@@ -42,6 +43,7 @@ describe('an outside consumer', () => {
     await page.waitForFunction(() => globalThis.cpf.shadowRoot?.querySelector('.box:not(.plain)'));
     const sent = await page.evaluate(() => Object.fromEntries(new FormData(document.querySelector('#form'))));
     assert.deepEqual(sent, { cpf: '111.444.777-35' });
+    await page.waitForFunction(() => globalThis.municipio.comboListCount === 5652);
     await page.close();
     server.close();
   }
@@ -57,13 +59,16 @@ describe('an outside consumer', () => {
     assert.deepEqual(names.filter((name) => /script|playground|test/.test(name)), []);
   });
 
-  test('esbuild, with the module copied beside the bundle', async () => {
+  test('esbuild, with the files copied to where the page says', async () => {
     const out = path.join(project, 'out');
-    await mkdir(out);
+    const files = path.join(out, 'files');
+    await mkdir(files, { recursive: true });
+    const script = "import { setModuleAddress } from 'gabarito'; setModuleAddress('files/gabarito.wasm');";
+    await writeFile(path.join(project, 'other.js'), script);
     const esbuild = path.join(web, 'node_modules/.bin/esbuild');
-    await run(esbuild, ['main.js', '--bundle', '--format=esm', '--outdir=out'], { cwd: project });
+    await run(esbuild, ['other.js', '--bundle', '--format=esm', '--outfile=out/main.js'], { cwd: project });
     for (const file of ['gabarito.wasm', 'municipios.txt']) {
-      await cp(path.join(project, 'node_modules/gabarito/dist', file), path.join(out, file));
+      await cp(path.join(project, 'node_modules/gabarito/dist', file), path.join(files, file));
     }
     await cp(path.join(project, 'index.html'), path.join(out, 'index.html'));
     await opens(out);
@@ -77,8 +82,8 @@ describe('an outside consumer', () => {
   });
 
   test('Node, with the rules of the form', async () => {
-    const script = "import { clean } from 'gabarito/headless'; console.log(clean('cpf', '11144477735').value);";
-    await writeFile(path.join(project, 'server.js'), script);
+    const code = "import { clean } from 'gabarito/headless'; console.log(clean('cpf', '11144477735').value);";
+    await writeFile(path.join(project, 'server.js'), code);
     const { stdout } = await run(process.execPath, ['server.js'], { cwd: project });
     assert.equal(stdout, '111.444.777-35\n');
   });

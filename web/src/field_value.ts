@@ -33,6 +33,7 @@ export abstract class FieldValue extends FieldSettings {
   }
   set value(text: string) {
     this.dirty = false;
+    this.clearRefusal();
     const value = text == null ? '' : String(text);
     if (this.view) this.write(value);
     else {
@@ -116,7 +117,6 @@ export abstract class FieldValue extends FieldSettings {
     if (this.plain) this.plain.disabled = disabled;
   }
   formResetCallback(): void {
-    this.clearRefusal();
     this.value = this.getAttribute('value') ?? '';
   }
   formStateRestoreCallback(state: string | File | FormData | null): void {

@@ -48,6 +48,10 @@ TEST(MaskedEdit, ShowsWhatIsEnteredAndWhereTheCaretGoes) {
   const struct { const char* name; std::u16string_view mask, text, keys, shown; } rows[] = {
       {"the caret runs over a literal", u"##/##", u"", u"12", u"12/|__"},
       {"a separator typed once more", u"##/##", u"", u"12/", u"12/|__"},
+      {"but not a second time", u"##/##", u"", u"12//", u"12/|__!"},
+      {"a separator twice goes to the next", u"##/##/##", u"", u"1//2", u"1_/__/2|_"},
+      {"a whole date with its separators", u"##/##/##", u"", u"12/34/56", u"12/34/56|"},
+      {"several that the caret ran over", u"(##)-##", u"", u"(11)-2", u"(11)-2|_"},
       {"a separator over an empty place", u"##/##", u"", u"1/2", u"1_/2|_"},
       {"over each of two", u"##/##/##", u"", u"1/2/3", u"1_/2_/3|_"},
       {"a separator over a filled place", u"##/##", u"12/34", u"/9", u"9|2/34!"},
@@ -79,6 +83,7 @@ TEST(MaskedEdit, ShowsWhatIsEnteredAndWhereTheCaretGoes) {
       {"no pattern, all selected", u"", u"abc", u"^x\x7F\bY", u"Y|"},
       {"pasted over a selection", u"##/##", u"12/34", u"^~5-6", u"56|/__"},
       {"pasted separators", u"##/##/##", u"", u"~1/2/34", u"1_/2_/34|"},
+      {"pasted from where the caret ran", u"##/##/##", u"", u"12~/34", u"12/34|/__"},
       {"pasted: what is refused is dropped", u"A?&", u"", u"~-12b-", u"1b-|"},
       {"the box's own text pasted", u"##1##", u"", u"~12134", u"12134|"},
       {"nothing pasted", u"##/##", u"12/34", u"^~", u"|__/__"},

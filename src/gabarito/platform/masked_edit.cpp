@@ -117,15 +117,34 @@ std::size_t MaskedEdit::Find(std::u16string_view text, std::size_t caret, char16
   if (IsLiteral(caret, character)) return caret;
   const std::size_t place = FindPlace(caret, character);
   if (place < positions_.size() || IsDigit(character) || IsLetter(character)) return place;
-  // The caret has run over the "/" of ##/## by itself when the person types it. Asked before the next "/" of
-  // ##/##/## is looked for.
-  if (caret > 0 && IsLiteral(caret - 1, character)) return caret - 1;
   return FindSeparator(text, caret, character);
 }
 
+// A host that puts the caret where it is has not moved it.
 void MaskedEdit::Select(std::size_t start, std::size_t length) {
+  const std::size_t former = start_;
   start_ = std::min(start, text_.size());
   length_ = std::min(length, text_.size() - start_);
+  if (start_ != former || length_ > 0) ran_from_ = start_;
+}
+
+// Steps over the literals that follow, and remembers where it came from.
+void MaskedEdit::RunOverLiterals() {
+  std::size_t caret = start_;
+  while (caret < positions_.size() && !IsPlace(caret)) ++caret;
+  const std::size_t from = start_;
+  Select(caret, 0);
+  ran_from_ = from;
+}
+
+// A separator that the caret has run over by itself is taken when the person types it: the "/" of 12/34.
+bool MaskedEdit::TakeAgain(char16_t separator) {
+  for (std::size_t at = ran_from_; at < start_; ++at) {
+    if (!IsLiteral(at, separator)) continue;
+    ran_from_ = at + 1;
+    return true;
+  }
+  return false;
 }
 
 void MaskedEdit::Empty(std::u16string& text, std::size_t start, std::size_t length) const {
@@ -176,7 +195,7 @@ void MaskedEdit::SelText(std::u16string_view text) {
   // so that the box's own text (12134 in ##1##) meets each of them and comes back as it was.
   std::u16string entered = text_;
   Empty(entered, start_, length_);
-  std::size_t caret = start_;
+  std::size_t caret = ran_from_;
   for (const char16_t c : text) {
     const std::size_t at = Find(entered, caret, c);
     if (at == positions_.size()) continue;
@@ -203,14 +222,15 @@ bool MaskedEdit::Type(char16_t character) {
   std::u16string without;
   if (length_ > 0) Empty(without = text_, start_, length_);
   const std::size_t at = Find(length_ > 0 ? without : text_, start_, character);
+  const bool separator = at == positions_.size() || !IsPlace(at);
+  // Before the next "/" of ##/##/## is gone to.
+  if (separator && at != start_ && TakeAgain(character)) return true;
   if (at == positions_.size()) return false;
   Empty(text_, start_, length_);
-  std::size_t caret = at + 1;
-  if (IsPlace(at)) {
-    text_[at] = Entered(positions_[at], character);
-    while (caret < positions_.size() && !IsPlace(caret)) ++caret;
-  }
-  Select(caret, 0);
+  Select(at + 1, 0);
+  if (separator) return true;
+  text_[at] = Entered(positions_[at], character);
+  RunOverLiterals();
   return true;
 }
 

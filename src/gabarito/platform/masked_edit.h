@@ -74,8 +74,8 @@ class MaskedEdit {
 
   // One typed character: replaces the selection. True when it was taken; false when it is refused, when it is
   // a control character, or when MaxLength is reached: nothing changes, and the host beeps. The caret goes on
-  // to the next place, over the literals that follow. So 12 in ##/## leaves it behind the slash, and a "/"
-  // typed there, where no place takes it, is taken and changes nothing.
+  // to the next place, over the literals that follow. So 12 in ##/## leaves it behind the slash, and the "/"
+  // that the person types then, where no place takes it, is taken once and changes nothing.
   bool Type(char16_t character);
   // Backspace: empties the selection, or the nearest place before the caret and moves there.
   void Backspace();
@@ -104,6 +104,8 @@ class MaskedEdit {
   std::size_t Find(std::u16string_view text, std::size_t caret, char16_t character) const;
   void Select(std::size_t start, std::size_t length);
   void Empty(std::u16string& text, std::size_t start, std::size_t length) const;
+  void RunOverLiterals();
+  bool TakeAgain(char16_t separator);
   bool TypePlain(char16_t character);
 
   std::u16string mask_;
@@ -112,6 +114,7 @@ class MaskedEdit {
   std::int32_t max_length_ = kLongest;
   std::size_t start_ = 0;
   std::size_t length_ = 0;
+  std::size_t ran_from_ = 0;  // where the caret stood before it ran over literals to start_; else start_
 };
 
 }  // namespace gabarito

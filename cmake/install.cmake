@@ -83,7 +83,7 @@ list(TRANSFORM installed REPLACE "(.+)" "\"$<TARGET_FILE:\\1>\"" OUTPUT_VARIABLE
 list(JOIN files " " files)
 file(GENERATE OUTPUT ${PROJECT_BINARY_DIR}/all_is_built_$<CONFIG>.cmake CONTENT "foreach(file ${files})
   if(NOT EXISTS \${file})
-    message(FATAL_ERROR \"nothing is installed, \${file} is missing: run cmake --build ${PROJECT_BINARY_DIR}\")
+    message(FATAL_ERROR \" nothing is installed, \${file} is missing: run cmake --build ${PROJECT_BINARY_DIR}\")
   endif()
 endforeach()
 ")

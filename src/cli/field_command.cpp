@@ -69,12 +69,17 @@ int RunField(const FieldCommandOptions& options, std::ostream& out, std::ostream
     field->Text(text);
     loaded = !field->MostraVazio();
   }
-  // By way of the surface, as a host gives the focus: the field picks the child that is on show.
-  form.SetFocus(*field.Surface());
-  SendKeyString(form.Model().keyboard, form.System().kernel, form.Model().dialogs, keys, true);
-  form.Run();
-  // Raises the check. A refusal takes the focus back into the field, which changes nothing for what follows.
-  form.SetFocus(behind);
+  if (options.keys) {
+    // By way of the surface, as a host gives the focus: the field picks the child that is on show.
+    form.SetFocus(*field.Surface());
+    SendKeyString(form.Model().keyboard, form.System().kernel, form.Model().dialogs, keys, true);
+    form.Run();
+    // Raises the check. A refusal takes the focus back into the field, which changes nothing for what
+    // follows.
+    form.SetFocus(behind);
+  }
+  // Raises it too, so that without keys a value is judged once, as in a batch: 00:00 once, not again as an
+  // empty time.
   const std::u16string value = field->Text();
   out << ToUtf8(value) << '\n';
   form.Model().recorder = nullptr;

@@ -25,6 +25,7 @@ struct File {
 
 bool IsFor(std::string_view firstLine, std::string_view stage) {
   if (firstLine.ends_with('\r')) firstLine.remove_suffix(1);
+  firstLine.remove_prefix(std::min(firstLine.find_first_not_of(" \t"), firstLine.size()));
   if (!firstLine.starts_with(kStages)) return true;
   std::string_view rest = firstLine.substr(kStages.size());
   while (!rest.empty()) {

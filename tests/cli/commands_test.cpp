@@ -139,6 +139,7 @@ TEST(Field, PrintsTheValueAndEachMessageBoxOnOneLine) {
       {{{"gbCidadeEstadoPopulado", {}}, {}, "sao jose dos ca"}, {0, "SAO JOSE DOS CAMPOS/SP\n"}},
       {{{"cpf", {}}, "11144477735", {}}, {0, "111.444.777-35\n"}},
       {{{"GBINTERVALONUMERICO", {}}, "#", {}}, {0, "#\n"}}, {{{"data", {}}, " ", {}}, {0, "\n"}},
+      {{{"gbHora", {}}, "00:00", {}}, {0, "00:00\n"}},
       {{{"gbData", {}}, "31/02/2024", {}}, {1, "\n", "Valor não aceito pela máscara.\n"}},
       {{{"gbCPF", {}}, "x", "11144477735"}, {1, "111.444.777-35\n", "Valor não aceito pela máscara.\n"}},
       {{{"gbNenhuma", {}}, {}, "({X}){FOO}{b}{tab}"}, {0, "{X}FB\n", "gabarito field: --keys: no key is called "

@@ -58,7 +58,7 @@ TEST_F(Scripts, EachFileStartsOnAFreshFormUnderItsName) {
 }
 
 TEST_F(Scripts, AStoryForOtherStagesIsSkippedWithAWord) {
-  const std::string qt = File("qt.txt", "#@ qt web\nnonsense\n"),
+  const std::string qt = File("qt.txt", "  #@ qt web\nnonsense\n"),
                     both = File("both.txt", "#@ qt memory\nnew\n");
   EXPECT_EQ(Run({qt}), 0);
   EXPECT_EQ(out, "");

@@ -4,15 +4,17 @@
 #include "gabarito/control/ajusta_mascara.h"
 #include "gabarito/control/aparencia.h"
 #include "gabarito/control/especie.h"
+#include "gabarito/control/estado.h"
 #include "gabarito/control/foco.h"
 #include "gabarito/control/persistencia.h"
 #include "gabarito/control/porta_do_valor.h"
 #include "gabarito/keyboard/filtro.h"
 #include "gabarito/keyboard/navegacao.h"
-#include "gabarito/state/campo.h"
 #include "gabarito/subclass/combo_subclass.h"
 
 namespace gabarito {
+
+FieldEvents::FieldEvents(const Gabarito& field) : c(field.c) {}
 
 void FieldEvents::UserControl_Initialize() { gabarito::UserControl_Initialize(*c); }
 void FieldEvents::UserControl_ReadProperties(const PropertyBag& PropBag) {

@@ -18,9 +18,11 @@
 
 namespace gabarito {
 
+struct Campo;
+
 class FieldEvents {
  public:
-  explicit FieldEvents(const Gabarito& field) : c(field.c) {}
+  explicit FieldEvents(const Gabarito& field);
 
   void UserControl_Initialize();
   void UserControl_ReadProperties(const PropertyBag& PropBag);

@@ -1,13 +1,13 @@
 #include "gabarito/control/gabarito.h"
 
 #include "gabarito/combo/palavras.h"
+#include "gabarito/control/estado.h"
 #include "gabarito/control/porta_do_valor.h"
 #include "gabarito/control/propriedades.h"
 #include "gabarito/control/sobre.h"
 #include "gabarito/control/vazio.h"
 #include "gabarito/rules/primitivas.h"
 #include "gabarito/state/apaga_campos.h"
-#include "gabarito/state/campo.h"
 
 namespace gabarito {
 
@@ -23,7 +23,7 @@ void Gabarito::Publica(Operacao operacao) {
   vivo->UserControl->Settle();
 }
 
-Gabarito::Gabarito(const Host& host) : c(std::make_shared<Campo>(host)) {}
+Gabarito::Gabarito(const Host& host) : c(std::make_shared<Estado>(host)) {}
 Gabarito::~Gabarito() = default;
 
 void Gabarito::ApagaCampos() { gabarito::ApagaCampos(*Vivo()); }

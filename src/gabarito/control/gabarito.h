@@ -27,7 +27,6 @@
 
 namespace gabarito {
 
-struct Campo;
 class FieldEvents;
 
 // A function of the program that is called on each KeyUp: key code and shift mask (1 Shift, 2 Ctrl, 4 Alt),
@@ -140,15 +139,17 @@ class Gabarito {
   void KeyUp(KeyUpHandler handler);
 
  private:
+  struct Estado;
+
   // Runs a public operation that can hide or disable children and lets the host settle the focus after it.
   template <class Operacao>
   void Publica(Operacao operacao);
 
   // The state, held by the caller while an operation runs in which the program may destroy the field.
-  std::shared_ptr<Campo> Vivo() const { return c; }
+  std::shared_ptr<Estado> Vivo() const { return c; }
 
   friend class FieldEvents;
-  std::shared_ptr<Campo> c;
+  std::shared_ptr<Estado> c;
 };
 
 }  // namespace gabarito

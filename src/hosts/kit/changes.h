@@ -16,7 +16,7 @@ enum class Change : std::uint16_t {
   kText = 1 << 5,       // the content, or the caption of a label
   kSelection = 1 << 6,  // also after each kText
   kLimit = 1 << 7,      // MaxLength
-  kLook = 1 << 8,       // Appearance, the styles of a label, the mask
+  kLook = 1 << 8,       // Appearance, the mask
   kList = 1 << 9,       // entries
   kSelected = 1 << 10,  // ListIndex
   kDroppedDown = 1 << 11,

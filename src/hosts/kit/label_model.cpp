@@ -26,14 +26,4 @@ void LabelModel::Font(const FontRef& font) {
   FitCaption();
 }
 
-void LabelModel::BackStyle(std::int32_t style) {
-  back_style_ = style;
-  Note(Change::kLook);
-}
-
-void LabelModel::BorderStyle(std::int32_t style) {
-  border_style_ = style;
-  Note(Change::kLook);
-}
-
 }  // namespace gabarito::kit

@@ -20,23 +20,20 @@ class LabelModel final : public ChildModel<Label> {
   float Left() const override { return bounds_.left; }
   float Top() const override { return bounds_.top; }
   float Width() const override { return bounds_.width; }
-  void BackStyle(std::int32_t style) override;
-  void BorderStyle(std::int32_t style) override;
+  // The field sets one look, opaque and without a border, and so a host shows a label.
+  void BackStyle(std::int32_t) override {}
+  void BorderStyle(std::int32_t) override {}
   // The pass after the event shows it.
   void Refresh() override {}
 
   std::u16string_view Shown() const { return caption_; }
   bool SizesItself() const { return auto_size_; }
-  bool IsOpaque() const { return back_style_ != 0; }
-  bool HasBorder() const { return border_style_ != 0; }
 
  private:
   void FitCaption();
 
   std::u16string caption_;
   bool auto_size_ = false;
-  std::int32_t back_style_ = 1;
-  std::int32_t border_style_ = 0;
 };
 
 }  // namespace gabarito::kit

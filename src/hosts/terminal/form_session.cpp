@@ -147,7 +147,7 @@ void FormSession::Click(Point at) {
   if (kit::ComboModel* combo = model_.FocusedCombo()) combo->DropDown(false);
 }
 
-// The focus passes to the button, so that the field that is left is judged as ever; then each field in turn.
+// The focus passes to the button, so that the field that is left is judged first; then each field in turn.
 // The first that refuses keeps the person.
 void FormSession::TryToFinish() {
   memory::Form& form = model_.Form();

@@ -122,6 +122,16 @@ TEST_F(AttackOn, WhileAMessageIsOpen) {
   }
 }
 
+TEST_F(AttackOn, TheApplicationQuitsWhileAMessageIsOpen) {
+  LeaveWithABadCpf();
+  DuringAMessage([] { QCoreApplication::quit(); });
+  QTimer::singleShot(0, qApp, [this] { Tab(); });
+  QTimer::singleShot(5000, window.get(), [] { QCoreApplication::exit(1); });
+  EXPECT_EQ(QApplication::exec(), 0);
+  EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+  EXPECT_EQ(Box(), nullptr) << "the window is closed";
+}
+
 TEST_F(AttackOn, PropertiesAreSetInsideKeyUp) {
   Show(GabaritoField::gbData);
   QObject::connect(field, &GabaritoField::keyUp, [this](int keyCode, int) {

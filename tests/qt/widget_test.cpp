@@ -4,6 +4,7 @@
 #include <QtGui/QStandardItemModel>
 #include <QtTest/QSignalSpy>
 #include <QtWidgets/QDataWidgetMapper>
+#include <QtWidgets/QFormLayout>
 #include <QtWidgets/QItemEditorFactory>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QStyledItemDelegate>
@@ -128,6 +129,74 @@ TEST_F(WidgetOf, TwoDigitsFitInADayAndFourInAYear) {
   }
 }
 
+// What the eye sees of a text, in pixels of the widget: dark on light, inside the frame.
+QSizeF Ink(QWidget& box) {
+  const QImage image = box.grab().toImage();
+  const double scale = image.devicePixelRatio();
+  const int frame = static_cast<int>(3 * scale);
+  QRect ink;
+  for (int y = frame; y < image.height() - frame; ++y) {
+    for (int x = frame; x < image.width() - frame; ++x) {
+      if (image.pixelColor(x, y).lightness() < 128) ink |= QRect(x, y, 1, 1);
+    }
+  }
+  return QSizeF(ink.size()) / scale;
+}
+
+TEST_F(WidgetOf, TextsAreDrawnWhole) {
+  const struct {
+    GabaritoField::Mask mask;
+    const char* text;
+  } rows[] = {{GabaritoField::gbData, "28/10/2088"},    {GabaritoField::gbHora, "20:58"},
+              {GabaritoField::gbMesAno, "08/2088"},     {GabaritoField::gbCEP, "88888-888"},
+              {GabaritoField::gbCPF, "111.444.777-35"}, {GabaritoField::gbEstado, "SP"}};
+  QFont font = field->font();
+  for (const double points : {8.0, 13.0, 20.0}) {
+    font.setPointSizeF(points);
+    field->setFont(font);
+    for (const auto& row : rows) {
+      Show(row.mask);
+      field->setText(row.text);
+      window->resize(window->sizeHint().expandedTo(QSize(400, 150)));
+      Settle();
+      for (QLineEdit* const box : Boxes()) {
+        EXPECT_TRUE(field->rect().contains(QRect(box->mapTo(field, QPoint()), box->size())));
+        QLineEdit roomy(box->text());
+        roomy.setFont(box->font());
+        roomy.resize(600, 100);
+        const QSizeF whole = Ink(roomy), seen = Ink(*box);
+        EXPECT_NEAR(seen.width(), whole.width(), 1) << box->text().toStdString() << " at " << points;
+        EXPECT_NEAR(seen.height(), whole.height(), 1) << box->text().toStdString() << " at " << points;
+      }
+    }
+  }
+}
+
+TEST_F(WidgetOf, ItsTextStandsAsHighAsThatOfALineEditBesideALabel) {
+  QWidget form;
+  QFormLayout rows(&form);
+  rows.addRow("Nome", new QLineEdit);
+  for (const auto mask : {GabaritoField::gbCPF, GabaritoField::gbData, GabaritoField::gbEstado}) {
+    auto* const added = new GabaritoField;
+    added->setMask(mask);
+    rows.addRow("Nome", added);
+  }
+  for (const double points : {8.0, 11.0, 20.0}) {
+    QFont font = form.font();
+    font.setPointSizeF(points);
+    form.setFont(font);
+    form.show();
+    Settle();
+    const auto off = [&](int row) {
+      QWidget* const label = rows.itemAt(row, QFormLayout::LabelRole)->widget();
+      QWidget* const entry = rows.itemAt(row, QFormLayout::FieldRole)->widget();
+      auto* const box = row == 0 ? entry : entry->findChild<QLineEdit*>();
+      return box->mapTo(&form, QPointF(0, box->height() / 2.0)).y() - QRectF(label->geometry()).center().y();
+    };
+    for (int row = 1; row < rows.rowCount(); ++row) EXPECT_NEAR(off(row), off(0), 1) << row << ' ' << points;
+  }
+}
+
 TEST_F(WidgetOf, PalettesStyleSheetsAndDirectionReachTheBoxes) {
   Show(GabaritoField::gbData);
   Enter(before);
@@ -241,6 +310,41 @@ TEST_F(WidgetOf, ToAssistiveTechnologyItIsAGroupOfNamedBoxes) {
   field->setMask(GabaritoField::gbCidadeEstado);
   EXPECT_EQ(QAccessible::queryAccessibleInterface(Box(0))->text(QAccessible::Name), "cidade");
   EXPECT_EQ(QAccessible::queryAccessibleInterface(List())->text(QAccessible::Name), "UF");
+}
+
+TEST_F(WidgetOf, WhatAssistiveTechnologyWritesPassesTheFilter) {
+  const struct {
+    GabaritoField::Mask mask;
+    std::function<void(QAccessibleInterface&)> write;
+    QString shown;
+  } rows[] = {
+      {GabaritoField::gbCPF, [](auto& box) { box.editableTextInterface()->insertText(0, "1a2-3"); }, "123"},
+      {GabaritoField::gbCPF, [](auto& box) { box.setText(QAccessible::Value, "111.444.777x35"); },
+       "11144477735"},
+      {GabaritoField::gbInteiro,
+       [](auto& box) {
+         box.setText(QAccessible::Value, "1234");
+         box.editableTextInterface()->deleteText(1, 2);
+         box.editableTextInterface()->replaceText(1, 2, "5x6");
+       },
+       "1564"},
+      {GabaritoField::gbDefUsr, [](auto& box) { box.setText(QAccessible::Value, "1x2"); }, "12/__"},
+      {GabaritoField::gbHora, [](auto& box) { box.setText(QAccessible::Value, "1020"); }, "10:20"},
+      {GabaritoField::gbEstado, [](auto& box) { box.setText(QAccessible::Value, "r"); }, "RJ"},
+  };
+  field->setMaskText("##/##");
+  for (const auto& row : rows) {
+    Show(row.mask);
+    Settle();
+    QLineEdit* const box = List() != nullptr && List()->isVisible() ? List()->lineEdit() : Box();
+    QAccessibleInterface* const written = QAccessible::queryAccessibleInterface(box);
+    row.write(*written);
+    Settle();
+    EXPECT_EQ(row.mask == GabaritoField::gbHora ? field->text() : box->text(), row.shown) << row.mask;
+    EXPECT_TRUE(field->isAncestorOf(Focus())) << row.mask;
+    field->apagaCampos();
+    Enter(before);
+  }
 }
 
 TEST_F(WidgetOf, AMessageInPlaceWaitsForNobodyAndGoesWithTheNextKey) {

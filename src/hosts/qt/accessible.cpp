@@ -3,6 +3,7 @@
 #include <QtWidgets/QAccessibleWidget>
 
 #include "hosts/qt/gabarito_field.h"
+#include "hosts/qt/line_box.h"
 
 namespace gabarito::qt {
 namespace {
@@ -19,6 +20,8 @@ class AccessibleField final : public QAccessibleWidget {
 };
 
 QAccessibleInterface* MakeAccessible(const QString&, QObject* object) {
+  // Who asks for a box may set its text.
+  if (auto* const box = qobject_cast<LineBox*>(object)) box->ListenToTexts();
   auto* const field = qobject_cast<GabaritoField*>(object);
   return field == nullptr ? nullptr : new AccessibleField(*field);
 }

@@ -158,6 +158,7 @@ class FieldBridge final : public BoxOwner, public ListBoxOwner {
   void KeyPressed(LineBox& box, QKeyEvent& event) override;
   void KeyReleased(LineBox& box, QKeyEvent& event) override;
   void TextComes(LineBox& box, const QString& text) override;
+  void TextSet(LineBox& box) override;
   void Edited(LineBox& box) override;
   void MousePressed(LineBox& box) override;
   void Picked(int index) override;
@@ -196,6 +197,7 @@ class FieldBridge final : public BoxOwner, public ListBoxOwner {
   void TypeCharacter(LineBox& box, QKeyEvent& event, char16_t character);
   void ActOnControl(LineBox& box, QKeyEvent& event, char16_t character);
   void Paste(LineBox& box);
+  void TakeSelectionAway(LineBox& box);
   void TakeOver(LineBox& box);
 
   GabaritoField& widget_;

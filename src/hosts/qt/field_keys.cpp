@@ -184,12 +184,57 @@ void FieldBridge::TextComes(LineBox& box, const QString& text) {
   InTurn([&] {
     const auto held = model_->SharedParts();
     kit::InputModel& child = Child(box.Index());
-    // What the text takes the place of goes with it, also when nothing of the text passes.
+    if (text.isEmpty()) return TakeSelectionAway(box);
     const kit::TextEdit edit = kit::TextArrives(child, ViewOf(text));
     if (!edit.changes || line == nullptr || form->Bridge() == nullptr) return;
     if (child.Kind() == kit::InputKind::kMasked) return;  // the pass shows what its engine has made of it
     line->ReplaceRange(edit.start, edit.removed, ToQString(edit.inserted), edit.caret);
   });
+}
+
+void FieldBridge::TakeSelectionAway(LineBox& box) {
+  kit::InputModel& child = Child(box.Index());
+  if (child.AsChild().SelLength() == 0) return;
+  if (child.Kind() == kit::InputKind::kMasked) {
+    std::u16string clipboard;
+    kit::ActOnKeyDown(child, kVkDelete, 0, clipboard);
+    return;
+  }
+  box.del();
+  TakeOver(box);
+}
+
+// Assistive technology sets texts past all keys: the former one is put back, and what is new in it comes like
+// any other text.
+void FieldBridge::TextSet(LineBox& box) {
+  if (passing_ || form_->depth > 0 || !model_->Exists()) return;
+  const QString now = box.text(), former = ToQString(Child(box.Index()).AsChild().Text());
+  if (now == former) return;
+  const bool picked = box.Index() == kCombo && now == list_->itemText(list_->currentIndex());
+  if (picked) return;
+  qsizetype head = 0, tail = 0;
+  const qsizetype shorter = std::min(now.size(), former.size());
+  while (head < shorter && now[head] == former[head]) ++head;
+  while (tail < shorter - head && now[now.size() - 1 - tail] == former[former.size() - 1 - tail]) ++tail;
+
+  const QString added = now.mid(head, now.size() - head - tail);
+  if (added.isEmpty() && Child(box.Index()).Kind() != kit::InputKind::kMasked) {
+    InTurn([] {});  // nothing comes, something is gone
+    return;
+  }
+
+  const auto form = form_;
+  ++form->running;  // the box is in the middle of its own change: it has to outlive what comes of this
+  passing_ = true;
+  box.setText(former);
+  passing_ = false;
+  box.setFocus(Qt::OtherFocusReason);
+  FocusWatch::Instance().Tell();
+  if (form->Bridge() != nullptr) {
+    box.Select(static_cast<int>(head), static_cast<int>(former.size() - head - tail));
+    TextComes(box, added);
+  }
+  --form->running;
 }
 
 // The masked box is changed by its engine alone: what Qt has done to it by undo or a menu is taken back.

@@ -13,8 +13,12 @@ bool IsShown(kit::InputModel& child) {
   return kit::VisitInput(child, [](auto& model) { return model.IsVisible(); });
 }
 
-const kit::Geometry& BoundsOf(kit::InputModel& child) {
-  return kit::VisitInput(child, [](auto& model) -> const kit::Geometry& { return model.Bounds(); });
+// The list is as high as a line of its font, which no move changes.
+kit::Geometry BoundsOf(kit::InputModel& child) {
+  kit::Geometry bounds = kit::VisitInput(child, [](auto& model) { return model.Bounds(); });
+  if (child.Kind() == kit::InputKind::kCombo)
+    bounds.height = static_cast<kit::ComboModel&>(child).LineHeight();
+  return bounds;
 }
 
 QString ToObjectName(std::string_view name) {
@@ -206,7 +210,7 @@ int FieldBridge::RowWidth() const {
   kit::FieldParts& parts = model_->Parts();
   float end = 0;
   for (kit::InputModel* const child : parts.InTabOrder()) {
-    const kit::Geometry& place = BoundsOf(*child);
+    const kit::Geometry place = BoundsOf(*child);
     if (IsShown(*child)) end = std::max(end, place.left + place.width);
   }
   return metric_->PixelsAcross(end);

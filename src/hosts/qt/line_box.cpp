@@ -6,6 +6,7 @@
 #include <QtGui/QDropEvent>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QPainter>
+#include <utility>
 
 namespace gabarito::qt {
 
@@ -17,9 +18,23 @@ void LineBox::SetFlat(bool flat) {
   setFrame(!flat);
 }
 
+void LineBox::ListenToTexts() {
+  if (listening_to_texts_) return;
+  listening_to_texts_ = true;
+  connect(this, &QLineEdit::textEdited, this, [this] { edited_ = true; });
+  connect(this, &QLineEdit::textChanged, this, [this] {
+    const bool by_person = std::exchange(edited_, false) || dropping_;
+    if (owner_ != nullptr && !by_person) owner_->TextSet(*this);
+  });
+}
+
+void LineBox::Select(int start, int length) {
+  setSelection(start, length);
+  if (length == 0) setCursorPosition(start);
+}
+
 void LineBox::ReplaceRange(int start, int removed, const QString& text, int caret) {
-  setSelection(start, removed);
-  if (removed == 0) setCursorPosition(start);
+  Select(start, removed);
   insert(text);
   setCursorPosition(caret);
 }
@@ -99,7 +114,9 @@ void LineBox::contextMenuEvent(QContextMenuEvent* event) {
 void LineBox::dropEvent(QDropEvent* event) {
   const bool from_here = event->source() == this;
   if (from_here || owner_ == nullptr) {
+    dropping_ = true;
     QLineEdit::dropEvent(event);  // the text has passed once
+    dropping_ = false;
     if (owner_ != nullptr) owner_->Edited(*this);
     return;
   }

@@ -17,8 +17,11 @@ class BoxOwner {
   // A key goes down. Everything that it does is done when this returns.
   virtual void KeyPressed(LineBox& box, QKeyEvent& event) = 0;
   virtual void KeyReleased(LineBox& box, QKeyEvent& event) = 0;
-  // Text without a key of its own is about to take the place of the selection; puts in what passes.
+  // Text without a key of its own is about to take the place of the selection; puts in what passes. No text
+  // at all takes the selection away.
   virtual void TextComes(LineBox& box, const QString& text) = 0;
+  // The text is another one, by whatever means; only told to who listens.
+  virtual void TextSet(LineBox& box) = 0;
   // A person has changed the text by other means: undo, a menu, the drag of a part of it.
   virtual void Edited(LineBox& box) = 0;
   // A mouse button goes down: what the focus brings has to be over before the click is taken.
@@ -37,6 +40,10 @@ class LineBox final : public QLineEdit {
   void Orphan() { owner_ = nullptr; }
   // A thin plain frame instead of the style's own.
   void SetFlat(bool flat);
+
+  // Tells of every other text from now on.
+  void ListenToTexts();
+  void Select(int start, int length);
 
   // What QLineEdit itself does with a key.
   void ActNatively(QKeyEvent& event) { QLineEdit::keyPressEvent(&event); }
@@ -65,7 +72,10 @@ class LineBox final : public QLineEdit {
   BoxOwner* owner_;
   int index_;
   bool flat_ = false;
-  bool listening_ = false;  // to edits by a menu
+  bool listening_ = false;           // to edits by a menu
+  bool listening_to_texts_ = false;  // of assistive technology
+  bool edited_ = false;              // by a person, as the widget tells first
+  bool dropping_ = false;            // a part of its own text
 };
 
 }  // namespace gabarito::qt

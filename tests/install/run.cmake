@@ -1,4 +1,4 @@
-# cmake -D WAY=installed|subproject -D BUILD=... -D SOURCES=... -D WORK=... -P run.cmake
+# cmake -D WAY=installed|subproject -D BUILD=... -D SOURCES=... -D WORK=... -D QT=ON|OFF -P run.cmake
 #
 # Builds the outside project in WORK in one of the two ways and compares what it prints.
 cmake_minimum_required(VERSION 3.25)
@@ -45,13 +45,40 @@ if(WAY STREQUAL "subproject")
   return()
 endif()
 
+# The component qt: a program on it, and what is said when it or Qt is missing.
+function(refuse why)
+  execute_process(COMMAND ${CMAKE_COMMAND} -S ${CMAKE_CURRENT_LIST_DIR}/project -B ${WORK}/refused ${options}
+                          -D WITH_QT=ON ${ARGN}
+                  RESULT_VARIABLE status OUTPUT_QUIET ERROR_VARIABLE text)
+  string(REGEX REPLACE "[ \n]+" " " text "${text}")
+  if(status EQUAL 0 OR NOT text MATCHES "${why}")
+    message(FATAL_ERROR "'${why}' is not said, but ${status}: ${text}")
+  endif()
+endfunction()
+if(QT)
+  set(ENV{QT_QPA_PLATFORM} offscreen)
+  set(ENV{LSAN_OPTIONS} suppressions=${SOURCES}/tests/qt/not_our_leaks.txt:print_suppressions=0)
+  run(${CMAKE_COMMAND} -S ${CMAKE_CURRENT_LIST_DIR}/project -B ${WORK}/build -D WITH_QT=ON)
+  run(${CMAKE_COMMAND} --build ${WORK}/build --target outside_qt)
+  # What Qt finds to say about its surroundings is not the program's.
+  execute_process(COMMAND ${WORK}/build/outside_qt RESULT_VARIABLE status OUTPUT_VARIABLE output ERROR_VARIABLE text)
+  if(NOT status EQUAL 0)
+    message(FATAL_ERROR "the program on Qt ends with ${status}: ${text}")
+  endif()
+  compare("the program on Qt")
+  refuse("the component qt needs Qt 6.4 or later" -D CMAKE_DISABLE_FIND_PACKAGE_Qt6=ON)
+  file(GLOB_RECURSE component ${prefix}/Gabarito-qt*.cmake)
+  file(REMOVE ${component})
+endif()
+refuse("the component qt is not installed: it was built without Qt")
+
 # A build that is not there yet: one clear line, and no prefix.
 run(${CMAKE_COMMAND} -S ${SOURCES} -B ${WORK}/unbuilt -G ${GENERATOR} -D CMAKE_CXX_COMPILER=${COMPILER}
     -D GABARITO_TESTS=OFF)
 execute_process(COMMAND ${CMAKE_COMMAND} --install ${WORK}/unbuilt --prefix ${WORK}/nothing
                 RESULT_VARIABLE status OUTPUT_QUIET ERROR_VARIABLE text)
-string(REPLACE "\n" " " text "${text}")
-if(status EQUAL 0 OR EXISTS ${WORK}/nothing OR NOT text MATCHES "nothing is installed.*is missing: run +cmake --build")
+string(REGEX REPLACE "[ \n]+" " " text "${text}")
+if(status EQUAL 0 OR EXISTS ${WORK}/nothing OR NOT text MATCHES "nothing is installed.*is missing: run cmake --build")
   message(FATAL_ERROR "installing what is not built ends with ${status}: ${text}")
 endif()
 

@@ -11,7 +11,7 @@
 namespace gabarito::qt {
 
 LineBox::LineBox(BoxOwner& owner, int index, QWidget* parent)
-    : QLineEdit(parent), owner_(&owner), index_(index) {}
+    : QLineEdit(parent), owner_(&owner), index_(static_cast<short>(index)) {}
 
 void LineBox::SetFlat(bool flat) {
   flat_ = flat;

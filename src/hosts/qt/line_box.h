@@ -70,7 +70,7 @@ class LineBox final : public QLineEdit {
 
  private:
   BoxOwner* owner_;
-  int index_;
+  short index_;  // as small as it is, like the rest: there may be thousands of boxes
   bool flat_ = false;
   bool listening_ = false;           // to edits by a menu
   bool listening_to_texts_ = false;  // of assistive technology

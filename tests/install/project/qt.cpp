@@ -1,6 +1,6 @@
 // A program outside of the project: one field in a window of Qt's, and its value.
-#include <QtWidgets/QApplication>
 #include <gabarito/qt/gabarito_field.h>
+#include <QtWidgets/QApplication>
 
 #include <iostream>
 

@@ -35,7 +35,7 @@ void AddArguments(Json& listed, const Membro& member) {
 
 void WriteJson(std::ostream& out) {
   Json kinds = Json::array();
-  for (const Especie& kind : Especies()) {
+  for (const EspecieDescrita& kind : Especies()) {
     kinds.push_back({{"name", kind.nome}, {"number", kind.valor}, {"takes", kind.toma}});
   }
   // In an order that stays, which hosts that list properties keep.
@@ -64,8 +64,8 @@ void WriteJson(std::ostream& out) {
 void WriteText(Language language, std::ostream& out) {
   // Columns, so that a person reads it as a table and a script by its blanks.
   std::size_t widest = 0;
-  for (const Especie& kind : Especies()) widest = std::max(widest, kind.nome.size());
-  for (const Especie& kind : Especies()) {
+  for (const EspecieDescrita& kind : Especies()) widest = std::max(widest, kind.nome.size());
+  for (const EspecieDescrita& kind : Especies()) {
     out << std::left << std::setw(static_cast<int>(widest)) << kind.nome << "  " << kind.valor << "  "
         << Told(kind.toma, language) << '\n';
   }

@@ -168,8 +168,8 @@ bool SameLetters(std::string_view a, std::string_view b) {
 }
 
 // By its name in any case, with "gb" in front or without.
-const Especie* KindOf(std::string_view name) {
-  for (const Especie& kind : Especies()) {
+const EspecieDescrita* KindOf(std::string_view name) {
+  for (const EspecieDescrita& kind : Especies()) {
     if (SameLetters(name, kind.nome) || SameLetters(name, kind.nome.substr(2))) return &kind;
   }
   return nullptr;
@@ -178,13 +178,13 @@ const Especie* KindOf(std::string_view name) {
 }  // namespace
 
 std::int32_t MaskFromText(std::string_view text) {
-  if (const Especie* kind = KindOf(text)) return kind->valor;
+  if (const auto* kind = KindOf(text)) return kind->valor;
   try {
     return static_cast<std::int32_t>(NumberFromText(text, "Mask", std::numeric_limits<std::int32_t>::min(),
                                                     std::numeric_limits<std::int32_t>::max()));
   } catch (const UsageError&) {
     std::vector<std::string_view> names;
-    for (const Especie& kind : Especies()) names.push_back(kind.nome);
+    for (const EspecieDescrita& kind : Especies()) names.push_back(kind.nome);
     const bool prefixed = SameLetters(text.substr(0, 2), "gb");
     throw UsageError("unknown mask " + Quoted(text) +
                      ": take a name that 'gabarito masks' lists, or a number" +

@@ -64,7 +64,7 @@ TEST(FormList, NameAndLabelStandInForEachOther) {
 TEST(FormList, TheFormOfItsOwnHoldsEveryKindOnceUnderNamesThatAShellTakes) {
   const auto fields = BuiltInForm().fields;
   EXPECT_EQ(fields.size(), Especies().size());
-  for (const Especie& kind : Especies()) {
+  for (const EspecieDescrita& kind : Especies()) {
     EXPECT_EQ(std::ranges::count(fields, kind.valor, &ListedField::mask), 1) << kind.nome;
   }
   EXPECT_NO_THROW(CheckNames(ForTerminal(BuiltInForm()).fields, FormFormat::kEnv));

@@ -31,7 +31,7 @@ Passo Digitado(std::int32_t mascara, std::u16string_view texto) {
 }
 
 TEST(Sweep, ALayoutPlacesWhatItCan) {
-  for (const Especie& especie : Especies()) {
+  for (const EspecieDescrita& especie : Especies()) {
     for (const std::string caixa : {"t0", "E0"}) {
       Caso caso{.nome = std::string(especie.nome) + " in " + caixa,
                 .prepara =

@@ -1,5 +1,6 @@
 #include "gabarito/control/especie.h"
 
+#include <algorithm>
 #include <array>
 
 #include "gabarito/combo/cidades.h"
@@ -51,58 +52,64 @@ constexpr RegraDeTecla kCNPJ{.teclas = Teclas::kDigitos, .saltos = u"/-", .lugar
 constexpr RegraDeTecla kTelefone{.teclas = Teclas::kTelefone, .tambem = u"+-()#* "};
 constexpr RegraDeTecla kCartao{.teclas = Teclas::kDigitos, .tambem = u" "};
 
-constexpr Especie kPadrao = {0, "", "", LayoutSimples, MascaraDesconhecida, SaiDoTextoEmMaiusculas, kTodas};
+constexpr Especie kPadrao = {0, LayoutSimples, MascaraDesconhecida, SaiDoTextoEmMaiusculas, kTodas};
 
 // clang-format off
-constexpr Especie kEspecies[] = {
-    {gbNenhuma, "gbNenhuma", "free text, ends in capitals",
-     LayoutSimples, CarregaTexto, SaiDoTextoEmMaiusculas, kTodas},
-    {gbLetra, "gbLetra", "letters only",
-     LayoutSimples, CarregaLetra, SaiDaLetra, kLetras},
-    {gbAlfanumerico, "gbAlfanumerico", "letters and digits",
-     LayoutSimples, CarregaTexto, SaiDoAlfanumerico, kTodas},
-    {gbData, "gbData", "a date: day, month, year",
-     AjustaComoData, CarregaData, SaiDaData, kData},
-    {gbDataAtual, "gbDataAtual", "today, whatever is typed",
-     AjustaComoData, CarregaData, SaiDaDataAtual, kNenhumaTecla},
-    {gbMesAno, "gbMesAno", "month and year",
-     AjustaComoMesAno, CarregaMesAno, SaiDoMesAno, kMesAno},
-    {gbHora, "gbHora", "hour and minute",
-     AjustaComoHora, CarregaHora, SaiDaHora, kHora},
-    {gbInteiro, "gbInteiro", "an integer",
-     LayoutSimples, CarregaInteiro, SaiDoInteiro, kDigitos},
-    {gbReal, "gbReal", "a real number",
-     LayoutSimples, CarregaReal, SaiDoReal, kNumero},
-    {gbMoeda, "gbMoeda", "a money amount, two decimals",
-     LayoutSimples, CarregaReal, SaiDoReal, kNumero},
-    {gbCEP, "gbCEP", "a postal code: five digits and three",
-     AjustaComoCEP, CarregaCEP, SaiDoCEP, kCEP},
-    {gbTelefone, "gbTelefone", "a telephone number",
-     LayoutSimples, CarregaTelefone, SaiDoTelefone, kTelefone},
-    {gbDefUsr, "gbDefUsr", "a mask of the author's own, in MaskText",
-     LayoutDefUsr, CarregaDefUsr, SaiDoDefUsr, kTodas, FimDaEscrita::kPula},
-    {gbVersao, "gbVersao", "a version number",
-     LayoutSimples, CarregaReal, SaiDoReal, kNumero},
-    {gbListaNoCombo, "gbListaNoCombo", "one word of the list in ComboItens",
-     AjustaComoListaDePalavrasNoCombo, CarregaListaNoCombo, SaiDaLista, kTodas},
-    {gbCPF, "gbCPF", "a CPF: personal taxpayer number",
-     LayoutSimples, CarregaCPF, SaiDoCPF, kDocumento},
-    {gbCNPJ, "gbCNPJ", "a CNPJ: company taxpayer number, or its root",
-     LayoutSimples, CarregaCNPJ, SaiDoCNPJ, kCNPJ},
-    {gbCidadeEstado, "gbCidadeEstado", "a city typed and a state chosen",
-     AjustaComoCidadeEstado, CarregaCidadeEstado, SaiDaCidadeEstado, kLetras},
-    {gbEstado, "gbEstado", "a state chosen from the list",
-     AjustaComoEstado, CarregaDaLista, SaiDaLista, kTodas},
-    {gbCidadeEstadoPopulado, "gbCidadeEstadoPopulado", "a municipality chosen from the list",
-     AjustaComoCidadeEstadoPopulado, CarregaDaLista, SaiDaLista, kTodas},
-    {gbCartaoCredito, "gbCartaoCredito", "a credit card number",
-     LayoutDeCartao, CarregaCartaoCredito, SaiDoCartaoCredito, kCartao},
-    {gbIntervaloNumerico, "gbIntervaloNumerico", "a range of two numbers",
-     AjustaComoIntervaloNumerico, CarregaIntervaloNumerico, SaiDoIntervaloNumerico, kDigitos},
-    {gbEnderecoEmail, "gbEnderecoEmail", "an e-mail address",
-     LayoutSimples, CarregaTexto, SaiDoEnderecoEmail, kTodas},
+constexpr EspecieDescrita kDescritas[] = {
+    {{gbNenhuma, LayoutSimples, CarregaTexto, SaiDoTextoEmMaiusculas, kTodas},
+     "gbNenhuma", "free text, ends in capitals"},
+    {{gbLetra, LayoutSimples, CarregaLetra, SaiDaLetra, kLetras},
+     "gbLetra", "letters only"},
+    {{gbAlfanumerico, LayoutSimples, CarregaTexto, SaiDoAlfanumerico, kTodas},
+     "gbAlfanumerico", "letters and digits"},
+    {{gbData, AjustaComoData, CarregaData, SaiDaData, kData},
+     "gbData", "a date: day, month, year"},
+    {{gbDataAtual, AjustaComoData, CarregaData, SaiDaDataAtual, kNenhumaTecla},
+     "gbDataAtual", "today, whatever is typed"},
+    {{gbMesAno, AjustaComoMesAno, CarregaMesAno, SaiDoMesAno, kMesAno},
+     "gbMesAno", "month and year"},
+    {{gbHora, AjustaComoHora, CarregaHora, SaiDaHora, kHora},
+     "gbHora", "hour and minute"},
+    {{gbInteiro, LayoutSimples, CarregaInteiro, SaiDoInteiro, kDigitos},
+     "gbInteiro", "an integer"},
+    {{gbReal, LayoutSimples, CarregaReal, SaiDoReal, kNumero},
+     "gbReal", "a real number"},
+    {{gbMoeda, LayoutSimples, CarregaReal, SaiDoReal, kNumero},
+     "gbMoeda", "a money amount, two decimals"},
+    {{gbCEP, AjustaComoCEP, CarregaCEP, SaiDoCEP, kCEP},
+     "gbCEP", "a postal code: five digits and three"},
+    {{gbTelefone, LayoutSimples, CarregaTelefone, SaiDoTelefone, kTelefone},
+     "gbTelefone", "a telephone number"},
+    {{gbDefUsr, LayoutDefUsr, CarregaDefUsr, SaiDoDefUsr, kTodas, FimDaEscrita::kPula},
+     "gbDefUsr", "a mask of the author's own, in MaskText"},
+    {{gbVersao, LayoutSimples, CarregaReal, SaiDoReal, kNumero},
+     "gbVersao", "a version number"},
+    {{gbListaNoCombo, AjustaComoListaDePalavrasNoCombo, CarregaListaNoCombo, SaiDaLista, kTodas},
+     "gbListaNoCombo", "one word of the list in ComboItens"},
+    {{gbCPF, LayoutSimples, CarregaCPF, SaiDoCPF, kDocumento},
+     "gbCPF", "a CPF: personal taxpayer number"},
+    {{gbCNPJ, LayoutSimples, CarregaCNPJ, SaiDoCNPJ, kCNPJ},
+     "gbCNPJ", "a CNPJ: company taxpayer number, or its root"},
+    {{gbCidadeEstado, AjustaComoCidadeEstado, CarregaCidadeEstado, SaiDaCidadeEstado, kLetras},
+     "gbCidadeEstado", "a city typed and a state chosen"},
+    {{gbEstado, AjustaComoEstado, CarregaDaLista, SaiDaLista, kTodas},
+     "gbEstado", "a state chosen from the list"},
+    {{gbCidadeEstadoPopulado, AjustaComoCidadeEstadoPopulado, CarregaDaLista, SaiDaLista, kTodas},
+     "gbCidadeEstadoPopulado", "a municipality chosen from the list"},
+    {{gbCartaoCredito, LayoutDeCartao, CarregaCartaoCredito, SaiDoCartaoCredito, kCartao},
+     "gbCartaoCredito", "a credit card number"},
+    {{gbIntervaloNumerico, AjustaComoIntervaloNumerico, CarregaIntervaloNumerico, SaiDoIntervaloNumerico, kDigitos},
+     "gbIntervaloNumerico", "a range of two numbers"},
+    {{gbEnderecoEmail, LayoutSimples, CarregaTexto, SaiDoEnderecoEmail, kTodas},
+     "gbEnderecoEmail", "an e-mail address"},
 };
 // clang-format on
+
+constexpr auto kEspecies = [] {
+  std::array<Especie, std::size(kDescritas)> especies{};
+  std::copy(std::begin(kDescritas), std::end(kDescritas), especies.begin());
+  return especies;
+}();
 
 constexpr std::int32_t kPrimeira = gbNenhuma;
 constexpr std::int32_t kUltima = gbEnderecoEmail;
@@ -118,23 +125,23 @@ constexpr auto kPosicoes = [] {
 
 constexpr bool EmOrdemECompletas() {
   std::int32_t anterior = 0;
-  for (const Especie& e : kEspecies) {
+  for (const EspecieDescrita& e : kDescritas) {
     if (e.valor <= anterior || e.nome.empty() || e.toma.empty()) return false;
     anterior = e.valor;
   }
   return true;
 }
-static_assert(std::size(kEspecies) == 23);
+static_assert(kEspecies.size() == 23);
 static_assert(EmOrdemECompletas());
 
 }  // namespace
 
-std::span<const Especie> Especies() { return kEspecies; }
+std::span<const EspecieDescrita> Especies() { return kDescritas; }
 
 const Especie& EspecieDe(std::int32_t mascara) {
   if (mascara < kPrimeira || mascara > kUltima) return kPadrao;
   const std::int8_t posicao = kPosicoes[static_cast<std::size_t>(mascara - kPrimeira)];
-  return posicao < 0 ? kPadrao : kEspecies[posicao];
+  return posicao < 0 ? kPadrao : kEspecies[static_cast<std::size_t>(posicao)];
 }
 
 }  // namespace gabarito

@@ -19,8 +19,6 @@ enum class FimDaEscrita {
 
 struct Especie {
   std::int32_t valor;  // an EMascaras; 0 in the default row
-  std::string_view nome;
-  std::string_view toma;  // what the field takes, in a few English words, for lists of kinds
   void (*layout)(Campo&);
   void (*carrega)(Campo&, std::u16string_view dado);
   void (*sai)(Campo&);
@@ -28,8 +26,14 @@ struct Especie {
   FimDaEscrita fim = FimDaEscrita::kConta;
 };
 
+// A row as lists of kinds show it. Apart, so that a program without such lists carries none of the words.
+struct EspecieDescrita : Especie {
+  std::string_view nome;
+  std::string_view toma;  // what the field takes, in a few English words
+};
+
 // The 23 kinds in the order of their values.
-std::span<const Especie> Especies();
+std::span<const EspecieDescrita> Especies();
 
 // The row of a value of Mask; the default row for any number outside EMascaras: the single box, the exit
 // and the keys of gbNenhuma, and a load that tells of the unknown mask.

@@ -3,6 +3,7 @@
 #include <iterator>
 
 #include "gabarito/platform/erro.h"
+#include "gabarito/platform/sort.h"
 #include "gabarito/platform/text.h"
 
 namespace gabarito {
@@ -35,7 +36,7 @@ bool IsSetOpen(std::u16string_view pattern, std::size_t position) {
 // Puts the ranges in order and makes one of those that overlap or touch, for a search by halves.
 void Merge(std::vector<Range>& ranges) {
   if (ranges.empty()) return;
-  std::sort(ranges.begin(), ranges.end(), [](const Range& a, const Range& b) { return a.low < b.low; });
+  Sort(ranges.begin(), ranges.end(), [](const Range& a, const Range& b) { return a.low < b.low; });
   auto last = ranges.begin();
   for (const Range& range : ranges) {
     if (range.low > last->high + 1) {

@@ -96,7 +96,9 @@ class Feitio {
     if (texto.size() != kTamanho) return false;
     bool serve = true;
     // Unrolled, the lanes stay in registers; as a loop they are stored one by one and waited for.
+#ifndef __OPTIMIZE_SIZE__
 #pragma GCC unroll 32
+#endif
     for (std::size_t i = 0; i < kTamanho; ++i) {
       const char16_t resto = static_cast<char16_t>(texto[i] - modelo_[i]);
       serve &= resto <= folga_[i];

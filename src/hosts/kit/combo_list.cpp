@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "gabarito/platform/erro.h"
+#include "gabarito/platform/sort.h"
 #include "gabarito/platform/text.h"
 
 namespace gabarito::kit {
@@ -51,7 +52,7 @@ struct ComboList::Storage {
     for (std::size_t i = 0; i < ends.size(); ++i) {
       sorted.push_back({HeadOf(Part(folded, i)), static_cast<std::uint16_t>(i)});
     }
-    std::sort(sorted.begin(), sorted.end(), [this](const Key& a, const Key& b) {
+    Sort(sorted.begin(), sorted.end(), [this](const Key& a, const Key& b) {
       if (a.head != b.head) return a.head < b.head;
       const int order = Part(folded, a.position).compare(Part(folded, b.position));
       return order != 0 ? order < 0 : a.position < b.position;

@@ -40,10 +40,11 @@ void Form::OwnModel::Deliver(const kit::KeyEvent& event) {
 }
 
 void Form::OwnModel::IntoOwn(kit::Focusable& receiver, const kit::KeyEvent& event) {
-  auto* const own = dynamic_cast<OwnControl*>(&receiver);
-  if (own == nullptr || event.up) return;
-  own->KeyDown(event.unicode != 0 ? kVkPacket : event.vk, event.shift);
-  if (const char16_t character = keyboard.CharacterOf(event)) own->Character(character);
+  // What is no part of a field is a control of this form's own.
+  if (event.up || &receiver == receiver.Owner().Surface()) return;
+  auto& own = static_cast<OwnControl&>(receiver);
+  own.KeyDown(event.unicode != 0 ? kVkPacket : event.vk, event.shift);
+  if (const char16_t character = keyboard.CharacterOf(event)) own.Character(character);
 }
 
 Form::Form() : windows_(*this, [this](WindowHandle window) { return ComboOf(window); }) {

@@ -183,7 +183,7 @@ void TellFocus(Answer& answer) {
   kit::Focusable* const focused = page.focus.Focused();
   answer.Number(FocusedField());
   if (focused == nullptr) return answer.Number(kNowhere);
-  if (const auto* const elsewhere = dynamic_cast<Elsewhere*>(focused))
+  if (const auto* const elsewhere = page.PlaceWith(*focused))
     return answer.Number(elsewhere->Number());
   if (focused->Input() == nullptr) return answer.Number(kSurface);
   const auto& children = static_cast<kit::FieldParts&>(focused->Owner()).InTabOrder();

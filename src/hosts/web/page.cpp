@@ -51,6 +51,13 @@ Elsewhere& Page::Place(std::int32_t number, std::string name) {
   return *place;
 }
 
+const Elsewhere* Page::PlaceWith(const kit::Focusable& focused) const {
+  for (const auto& [number, place] : places_) {
+    if (place.get() == &focused) return place.get();
+  }
+  return nullptr;
+}
+
 // Inside the field by the order of its children; from its last one on by that of the page, which only the
 // page knows.
 void Page::Tab(bool backwards) {

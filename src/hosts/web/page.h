@@ -89,6 +89,8 @@ class Page final : public kit::FormModel {
   void Tab(bool backwards);
   // Something on the page that is no field, by its number; 0 is all that has none of its own.
   Elsewhere& Place(std::int32_t number, std::string name = "elsewhere");
+  // The one that `focused` is; null when that is a part of a field.
+  const Elsewhere* PlaceWith(const kit::Focusable& focused) const;
 
   Lent lent;
   // What was last copied or cut here, for keys that the field itself sends.

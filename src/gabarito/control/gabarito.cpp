@@ -11,11 +11,11 @@
 
 namespace gabarito {
 
-template <class Operacao>
-void Gabarito::Publica(Operacao operacao) {
+template <class Valor>
+void Gabarito::Publica(void (*poe)(Campo&, Valor), Valor valor) {
   const auto vivo = Vivo();
   try {
-    operacao(*vivo);
+    poe(*vivo, valor);
   } catch (...) {
     vivo->UserControl->Settle();
     throw;
@@ -33,9 +33,7 @@ std::u16string Gabarito::pfTiraAcentoDeFrase(std::u16string_view s) const {
 }
 
 std::int16_t Gabarito::MaxLength() const { return c->mMaxLength; }
-void Gabarito::MaxLength(std::int16_t t) {
-  Publica([&](Campo& campo) { PoeMaxLength(campo, t); });
-}
+void Gabarito::MaxLength(std::int16_t t) { Publica(PoeMaxLength, t); }
 
 Variant Gabarito::ComboItens() const { return LeComboItens(*c); }
 void Gabarito::ComboItens(const Variant& itens) { GuardaComboItens(*Vivo(), itens); }
@@ -46,9 +44,7 @@ std::int16_t Gabarito::ComboListIndex() const { return c->Combo1->ListIndex(); }
 void Gabarito::ComboListIndex(std::int16_t valor) { PoeComboListIndex(*Vivo(), valor); }
 
 bool Gabarito::Enabled() const { return c->mEntrada1->Enabled(); }
-void Gabarito::Enabled(bool valor) {
-  Publica([&](Campo& campo) { PoeEnabled(campo, valor); });
-}
+void Gabarito::Enabled(bool valor) { Publica(PoeEnabled, valor); }
 
 Color Gabarito::BackColor() const { return c->Combo1->BackColor(); }
 void Gabarito::BackColor(Color lCor) { PoeBackColor(*Vivo(), lCor); }
@@ -63,19 +59,13 @@ void Gabarito::Text(std::u16string_view dado) { EscreveText(*Vivo(), dado); }
 bool Gabarito::MostraVazio() const { return gabarito::MostraVazio(*c); }
 
 std::int32_t Gabarito::Mask() const { return c->mMask; }
-void Gabarito::Mask(std::int32_t M) {
-  Publica([&](Campo& campo) { PoeMask(campo, M); });
-}
+void Gabarito::Mask(std::int32_t M) { Publica(PoeMask, M); }
 
 std::u16string Gabarito::MaskText() const { return std::u16string(c->MaskEdBox1->Mask()); }
-void Gabarito::MaskText(std::u16string_view mascara) {
-  Publica([&](Campo& campo) { PoeMaskText(campo, mascara); });
-}
+void Gabarito::MaskText(std::u16string_view mascara) { Publica(PoeMaskText, mascara); }
 
 bool Gabarito::UsarFundoPastel() const { return c->mUsarFundoPastel; }
-void Gabarito::UsarFundoPastel(bool valor) {
-  Publica([&](Campo& campo) { PoeUsarFundoPastel(campo, valor); });
-}
+void Gabarito::UsarFundoPastel(bool valor) { Publica(PoeUsarFundoPastel, valor); }
 
 bool Gabarito::PreencherDatasInvalidasComDataDeHoje() const {
   return c->mPreencherDatasInvalidasComDataDeHoje;
@@ -86,9 +76,7 @@ void Gabarito::PreencherDatasInvalidasComDataDeHoje(bool valor) {
 }
 
 std::int32_t Gabarito::Appearance() const { return c->mAppearance; }
-void Gabarito::Appearance(std::int32_t valor) {
-  Publica([&](Campo& campo) { PoeAppearance(campo, valor); });
-}
+void Gabarito::Appearance(std::int32_t valor) { Publica(PoeAppearance, valor); }
 
 FontRef Gabarito::Font() const { return c->UserControl->Font(); }
 void Gabarito::Font(const FontRef& sFnt) { PoeFont(*Vivo(), sFnt); }

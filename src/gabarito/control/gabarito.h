@@ -141,9 +141,9 @@ class Gabarito {
  private:
   struct Estado;
 
-  // Runs a public operation that can hide or disable children and lets the host settle the focus after it.
-  template <class Operacao>
-  void Publica(Operacao operacao);
+  // Sets a property that can hide or disable children and lets the host settle the focus after it.
+  template <class Valor>
+  void Publica(void (*poe)(Campo&, Valor), Valor valor);
 
   // The state, held by the caller while an operation runs in which the program may destroy the field.
   std::shared_ptr<Estado> Vivo() const { return c; }

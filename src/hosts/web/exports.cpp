@@ -183,8 +183,7 @@ void TellFocus(Answer& answer) {
   kit::Focusable* const focused = page.focus.Focused();
   answer.Number(FocusedField());
   if (focused == nullptr) return answer.Number(kNowhere);
-  if (const auto* const elsewhere = page.PlaceWith(*focused))
-    return answer.Number(elsewhere->Number());
+  if (const auto* const elsewhere = page.PlaceWith(*focused)) return answer.Number(elsewhere->Number());
   if (focused->Input() == nullptr) return answer.Number(kSurface);
   const auto& children = static_cast<kit::FieldParts&>(focused->Owner()).InTabOrder();
   answer.Number(static_cast<std::int32_t>(std::find(children.begin(), children.end(), focused->Input()) -

@@ -11,8 +11,8 @@
 
 namespace gabarito {
 
-template <class Valor>
-void Gabarito::Publica(void (*poe)(Campo&, Valor), Valor valor) {
+template <class Poe, class Valor>
+void Gabarito::Publica(Poe poe, Valor valor) {
   const auto vivo = Vivo();
   try {
     poe(*vivo, valor);

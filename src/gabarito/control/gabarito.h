@@ -142,8 +142,8 @@ class Gabarito {
   struct Estado;
 
   // Sets a property that can hide or disable children and lets the host settle the focus after it.
-  template <class Valor>
-  void Publica(void (*poe)(Campo&, Valor), Valor valor);
+  template <class Poe, class Valor>
+  void Publica(Poe poe, Valor valor);
 
   // The state, held by the caller while an operation runs in which the program may destroy the field.
   std::shared_ptr<Estado> Vivo() const { return c; }

@@ -2,6 +2,7 @@
 // form without this field would do for it: test the digit, append it to an array, call one callback.
 #include <benchmark/benchmark.h>
 
+#include <algorithm>
 #include <array>
 #include <functional>
 #include <string>
@@ -126,7 +127,10 @@ void TypeFloor(benchmark::State& state, std::u16string_view digits) {
 
 void Register() {
   for (const auto& [mask, value, key] : kKinds) {
-    const std::string name(EspecieDe(mask).nome);
+    const auto kinds = Especies();
+    const auto kind =
+        std::find_if(kinds.begin(), kinds.end(), [&](const auto& e) { return e.valor == mask; });
+    const std::string name(kind->nome);
     benchmark::RegisterBenchmark(("WriteAndRead/" + name).c_str(), WriteAndRead, mask, value);
     benchmark::RegisterBenchmark(("Layout/" + name).c_str(), Layout, mask);
     benchmark::RegisterBenchmark(("Key/" + name).c_str(), Key, mask, key);

@@ -6,7 +6,6 @@
 #include <functional>
 #include <memory>
 #include <utility>
-#include <vector>
 
 namespace gabarito {
 
@@ -18,34 +17,42 @@ using FuncaoKeyUp = std::function<void(std::int16_t& KeyCode, std::int16_t& Shif
 class EventoKeyUp {
  public:
   void Poe(FuncaoKeyUp funcao) {
-    auto anterior =
-        std::exchange(atual_, funcao ? std::make_unique<FuncaoKeyUp>(std::move(funcao)) : nullptr);
-    if (rodando_ > 0) substituidas_.push_back(std::move(anterior));
+    auto anterior = std::exchange(
+        atual_, funcao ? std::make_unique<Tratador>(Tratador{std::move(funcao), nullptr}) : nullptr);
+    if (rodando_ == 0 || anterior == nullptr) return;
+    anterior->seguinte = std::move(substituidos_);
+    substituidos_ = std::move(anterior);
   }
 
   // Both arguments hold afterwards what the program left in them.
   void Levanta(std::int16_t& KeyCode, std::int16_t& Shift) {
     if (atual_ == nullptr) return;
     const Rodada rodada(*this);
-    (*atual_)(KeyCode, Shift);
+    atual_->funcao(KeyCode, Shift);
   }
 
  private:
+  struct Tratador {
+    FuncaoKeyUp funcao;
+    std::unique_ptr<Tratador> seguinte;
+  };
+
   struct Rodada {
     explicit Rodada(EventoKeyUp& oEvento) : evento(oEvento) { ++evento.rodando_; }
-    // Taken out first: what a handler holds may raise the event or set a handler when it goes.
+    // One by one, each taken out first: what a handler holds may raise the event or set a handler when it
+    // goes, and there may be many of them.
     ~Rodada() {
-      if (--evento.rodando_ == 0 && !evento.substituidas_.empty()) {
-        const auto substituidas = std::exchange(evento.substituidas_, {});
-      }
+      if (--evento.rodando_ > 0) return;
+      for (auto resto = std::move(evento.substituidos_); resto != nullptr;)
+        resto = std::move(resto->seguinte);
     }
     Rodada(const Rodada&) = delete;
     Rodada& operator=(const Rodada&) = delete;
     EventoKeyUp& evento;
   };
 
-  std::unique_ptr<FuncaoKeyUp> atual_;
-  std::vector<std::unique_ptr<FuncaoKeyUp>> substituidas_;
+  std::unique_ptr<Tratador> atual_;
+  std::unique_ptr<Tratador> substituidos_;
   int rodando_ = 0;
 };
 

@@ -30,8 +30,8 @@ class ChildModel : public Interface {
   using Interface::BackColor;
   using Interface::Visible;
 
-  ChildModel(FieldParts& parts, const ChildDesign& design)
-      : parts_(parts), design_(design), bounds_(design.geometry), color_(design.backColor) {}
+  explicit ChildModel(const ChildDesign& design)
+      : design_(design), bounds_(design.geometry), color_(design.backColor) {}
   ChildModel(const ChildModel&) = delete;
   ChildModel& operator=(const ChildModel&) = delete;
 
@@ -46,7 +46,6 @@ class ChildModel : public Interface {
   void Visible(bool visible) override {
     visible_ = visible;
     Note(Change::kVisible);
-    if (!visible) Unsettle();
   }
   void BackColor(gabarito::Color color) override {
     color_ = color;
@@ -69,9 +68,7 @@ class ChildModel : public Interface {
 
  protected:
   void Note(Change change) { changes_.Note(change); }
-  void Unsettle();
 
-  FieldParts& parts_;
   const ChildDesign& design_;
   Geometry bounds_;
   gabarito::Color color_;
@@ -86,9 +83,10 @@ template <class Interface, class Line>
 class InputChildModel : public ChildModel<Interface>, public InputModel {
  public:
   using Interface::Enabled;
+  using ChildModel<Interface>::Visible;
 
   InputChildModel(InputKind kind, FieldParts& parts, const ChildDesign& design)
-      : ChildModel<Interface>(parts, design), InputModel(kind, parts) {
+      : ChildModel<Interface>(design), InputModel(kind, parts) {
     line_.Text(design.text);
   }
 
@@ -107,10 +105,14 @@ class InputChildModel : public ChildModel<Interface>, public InputModel {
     line_.SelLength(length);
     this->Note(Change::kSelection);
   }
+  void Visible(bool visible) override {
+    ChildModel<Interface>::Visible(visible);
+    if (!visible) Unsettle();
+  }
   void Enabled(bool enabled) override {
     enabled_ = enabled;
     this->Note(Change::kEnabled);
-    if (!enabled) this->Unsettle();
+    if (!enabled) Unsettle();
   }
   void SetFocus() override;
 
@@ -131,6 +133,9 @@ class InputChildModel : public ChildModel<Interface>, public InputModel {
   }
 
  protected:
+  // What has the focus may no longer be able to keep it.
+  void Unsettle();
+
   Line line_;
   bool enabled_ = true;
 };

@@ -64,10 +64,10 @@ void ComboModel::Select(std::int16_t index) {
   line_.Text(index < 0 ? std::u16string_view() : list_.At(static_cast<std::size_t>(index)));
   Note(Change::kSelected);
   NoteEdit();
-  parts_.Raise([](FieldEvents& field) { field.Combo1_Click(); });
+  Parts().Raise([](FieldEvents& field) { field.Combo1_Click(); });
 }
 
-float ComboModel::LineHeight() const { return parts_.form->services.metric->LineHeight(*font_); }
+float ComboModel::LineHeight() const { return Parts().form->services.metric->LineHeight(*font_); }
 
 void ComboModel::Width(float width) {
   RefuseNegative(width);
@@ -99,17 +99,17 @@ void ComboModel::DropDown(bool open) {
 
 void ComboModel::LostFocus() {
   DropDown(false);
-  parts_.Raise([](FieldEvents& field) { field.Combo1_LostFocus(); });
+  Parts().Raise([](FieldEvents& field) { field.Combo1_LostFocus(); });
 }
 
 char16_t ComboModel::KeyPress(char16_t character) {
   std::int16_t KeyAscii = Asc(character);
-  parts_.Raise([&](FieldEvents& field) { field.Combo1_KeyPress(KeyAscii); });
+  Parts().Raise([&](FieldEvents& field) { field.Combo1_KeyPress(KeyAscii); });
   return KeyAscii == 0 ? u'\0' : Chr(KeyAscii);
 }
 
 void ComboModel::KeyUp(std::int16_t vk, std::int16_t shift) {
-  parts_.Raise([&](FieldEvents& field) { field.Combo1_KeyUp(vk, shift); });
+  Parts().Raise([&](FieldEvents& field) { field.Combo1_KeyUp(vk, shift); });
 }
 
 void ComboModel::HandOver(std::u16string_view text, std::int32_t selStart, std::int32_t selLength) {

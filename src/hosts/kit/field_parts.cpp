@@ -19,30 +19,26 @@ const FontRef& DesignFont() {
   return font;
 }
 
-template <class Interface>
-void ChildModel<Interface>::Unsettle() {
-  parts_.form->focus.Unsettle();
+template <class Interface, class Line>
+void InputChildModel<Interface, Line>::Unsettle() {
+  Parts().form->focus.Unsettle();
 }
 
 template <class Interface, class Line>
 void InputChildModel<Interface, Line>::SetFocus() {
-  this->parts_.form->focus.Move(*this);
+  Parts().form->focus.Move(*this);
 }
 
 template <class Interface, class Line>
 Control& InputChildModel<Interface, Line>::Owner() {
-  return this->parts_;
+  return Parts();
 }
 
 template <class Interface, class Line>
 bool InputChildModel<Interface, Line>::CanTakeFocus() const {
-  return this->visible_ && enabled_ && this->parts_.Live();
+  return this->visible_ && enabled_ && Parts().Live();
 }
 
-template class ChildModel<Label>;
-template class ChildModel<TextBox>;
-template class ChildModel<ComboBox>;
-template class ChildModel<MaskEdBox>;
 template class InputChildModel<TextBox, TextLine>;
 template class InputChildModel<ComboBox, TextLine>;
 template class InputChildModel<MaskEdBox, MaskedEdit>;

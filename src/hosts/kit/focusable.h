@@ -2,6 +2,7 @@
 #ifndef HOSTS_KIT_FOCUSABLE_H
 #define HOSTS_KIT_FOCUSABLE_H
 
+#include <cstdint>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -15,7 +16,6 @@ class InputModel;
 // somebody else.
 class Focusable {
  public:
-  Focusable() = default;
   virtual ~Focusable() = default;
 
   // "before", "Combo1", "txt_entrada3D(1)"; "field" for a surface.
@@ -29,13 +29,14 @@ class Focusable {
   virtual void LostFocus() {}
 
   // The child of a field behind it; null for anything else.
-  InputModel* Input() const { return input_; }
+  InputModel* Input();  // input_model.h
 
  protected:
-  explicit Focusable(InputModel* input) : input_(input) {}
+  enum class Sort : std::uint8_t { kInput, kOther };
+  explicit Focusable(Sort sort = Sort::kOther) : sort_(sort) {}
 
  private:
-  InputModel* input_ = nullptr;
+  Sort sort_;
 };
 
 // A hold on the parts of a control; see Control::Hold.

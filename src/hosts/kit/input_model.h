@@ -13,11 +13,11 @@ namespace gabarito::kit {
 
 struct FieldParts;
 
-enum class InputKind { kTextBox, kCombo, kMasked };
+enum class InputKind : std::uint8_t { kTextBox, kCombo, kMasked };
 
 class InputModel : public Focusable {
  public:
-  InputModel(InputKind kind, FieldParts& parts) : Focusable(this), kind_(kind), of_(parts) {}
+  InputModel(InputKind kind, FieldParts& parts) : Focusable(Sort::kInput), kind_(kind), of_(parts) {}
 
   InputKind Kind() const { return kind_; }
   virtual InputChild& AsChild() = 0;
@@ -42,12 +42,20 @@ class InputModel : public Focusable {
   // Longest text that a person can enter; 0 is no limit.
   virtual std::int32_t Limit() const { return 0; }
 
+  // Small, and in this order: a field has eight of them.
+ private:
+  InputKind kind_;
+
+ public:
   std::int32_t anchor = 0;  // where a selection by keys began, for a model's own entry
 
  private:
-  InputKind kind_;
   FieldParts& of_;
 };
+
+inline InputModel* Focusable::Input() {
+  return sort_ == Sort::kInput ? static_cast<InputModel*>(this) : nullptr;
+}
 
 }  // namespace gabarito::kit
 

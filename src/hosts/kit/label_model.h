@@ -12,7 +12,7 @@ namespace gabarito::kit {
 class LabelModel final : public ChildModel<Label> {
  public:
   LabelModel(FieldParts& parts, const ChildDesign& design)
-      : ChildModel(parts, design), caption_(design.text) {}
+      : ChildModel(design), parts_(parts), caption_(design.text) {}
 
   void Caption(std::u16string_view caption) override;
   void AutoSize(bool on) override;
@@ -32,6 +32,7 @@ class LabelModel final : public ChildModel<Label> {
  private:
   void FitCaption();
 
+  FieldParts& parts_;
   std::u16string caption_;
   bool auto_size_ = false;
 };

@@ -51,12 +51,12 @@ void MaskedModel::Height(float height) {
 }
 
 void MaskedModel::GotFocus() {
-  parts_.Raise([](FieldEvents& field) { field.MaskEdBox1_GotFocus(); });
+  Parts().Raise([](FieldEvents& field) { field.MaskEdBox1_GotFocus(); });
 }
 
 char16_t MaskedModel::KeyPress(char16_t character) {
   std::int16_t KeyAscii = Asc(character);
-  parts_.Raise([&](FieldEvents& field) { field.MaskEdBox1_KeyPress(KeyAscii); });
+  Parts().Raise([&](FieldEvents& field) { field.MaskEdBox1_KeyPress(KeyAscii); });
   return KeyAscii == 0 ? u'\0' : Chr(KeyAscii);
 }
 

@@ -35,13 +35,13 @@ void TextBoxModel::Height(float height) {
 }
 
 void TextBoxModel::GotFocus() {
-  parts_.Raise([&](FieldEvents& field) {
+  Parts().Raise([&](FieldEvents& field) {
     look_ == Look::k3D ? field.txt_entrada3D_GotFocus(index_) : field.txt_entrada_GotFocus(index_);
   });
 }
 
 void TextBoxModel::KeyDown(std::int16_t& vk, std::int16_t& shift) {
-  parts_.Raise([&](FieldEvents& field) {
+  Parts().Raise([&](FieldEvents& field) {
     look_ == Look::k3D ? field.txt_entrada3D_KeyDown(index_, vk, shift)
                        : field.txt_entrada_KeyDown(index_, vk, shift);
   });
@@ -49,7 +49,7 @@ void TextBoxModel::KeyDown(std::int16_t& vk, std::int16_t& shift) {
 
 char16_t TextBoxModel::KeyPress(char16_t character) {
   std::int16_t KeyAscii = Asc(character);
-  parts_.Raise([&](FieldEvents& field) {
+  Parts().Raise([&](FieldEvents& field) {
     look_ == Look::k3D ? field.txt_entrada3D_KeyPress(index_, KeyAscii)
                        : field.txt_entrada_KeyPress(index_, KeyAscii);
   });

@@ -1,6 +1,6 @@
 // Bundles the package into dist: build.mjs [--wasm DIR] takes the modules from a build folder of CMake.
-import { build } from 'esbuild';
-import { copyFile, mkdir } from 'node:fs/promises';
+import { build, transform } from 'esbuild';
+import { copyFile, mkdir, readFile } from 'node:fs/promises';
 import { fileURLToPath } from 'node:url';
 import path from 'node:path';
 
@@ -9,8 +9,37 @@ const dist = path.join(here, 'dist');
 const modules = process.argv[2] ?? path.join(here, '../build/wasm/src');
 await mkdir(dist, { recursive: true });
 
+// The styles stand in the script as a text, which the bundler leaves as it is.
+const styles = {
+  name: 'styles',
+  setup({ onLoad }) {
+    onLoad({ filter: /src.styles\.ts$/ }, async ({ path: file }) => {
+      const script = await readFile(file, 'utf8');
+      const [, css] = /`([^`]+)`/.exec(script);
+      const { code } = await transform(css, { loader: 'css', minify: true, target: 'es2022' });
+      return { contents: script.replace(css, () => code.trim()), loader: 'ts' };
+    });
+  },
+};
+
+// Names of our own long enough to weigh, which neither the browser nor a page's author uses.
+const inside = ['applyFocus', 'beforeInput', 'clearRefusal', 'committed', 'composing', 'composingInput',
+  'compositionEnd', 'cutOrCopy', 'droppedDown', 'elementAt', 'erasing', 'firstInput', 'focusChild', 'focusEntry',
+  'focusField', 'focusedPlace', 'handOverStale', 'hasEntryFocused', 'hasMunicipios', 'hearer', 'isForAll', 'judged',
+  'knownText', 'makeEntry', 'makeList', 'makePlain', 'makeRow', 'makeTemplate', 'nameAll', 'noteStale', 'pasteKey',
+  'rewrites', 'rowHeight', 'showAgain', 'showEntry', 'showLabel', 'showList', 'showMunicipios', 'staleViews',
+  'startSoon', 'tableAddress', 'tabsRound', 'takeComposed', 'takeStale', 'textOf', 'valueBefore', 'verdict',
+  'writtenAtOnce'];
+const mangleProps = new RegExp(`^(${inside.join('|')})$`);
+
 const common = { bundle: true, format: 'esm', target: 'es2022', minify: !process.env.PLAIN, sourcemap: true, outdir: dist, logLevel: 'warning' };
-await build({ ...common, entryPoints: { gabarito: path.join(here, 'src/index.ts') }, platform: 'browser' });
+await build({
+  ...common,
+  entryPoints: { gabarito: path.join(here, 'src/index.ts') },
+  platform: 'browser',
+  mangleProps,
+  plugins: [styles],
+});
 await build({ ...common, entryPoints: { headless: path.join(here, 'src/headless.ts') }, platform: 'browser' });
 await build({
   ...common,

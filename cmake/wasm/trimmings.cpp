@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdlib>
 #include <exception>
+#include <new>
 
 extern "C" {
 
@@ -24,3 +25,11 @@ void* __calloc_with_fallback(std::size_t count, std::size_t size) { return std::
 void __free_with_fallback(void* block) { std::free(block); }
 
 }  // namespace __cxxabiv1
+
+// A page without memory left ends; that no allocation throws spares the cleaning up around each of them.
+void* operator new(std::size_t size) {
+  void* const block = std::malloc(size);
+  if (block == nullptr) std::abort();
+  return block;
+}
+void operator delete(void* block) noexcept { std::free(block); }

@@ -3,28 +3,28 @@
 
 import type { Module } from './module.js';
 
-export const Event = {
-  sync: 0,
-  keyDown: 1,
-  keyUp: 2,
-  insert: 3,
-  paste: 4,
-  cut: 5,
-  input: 6,
-  focus: 7,
-  leave: 8,
-  pick: 9,
-  dropDown: 10,
-  size: 11,
-  set: 12,
-  get: 13,
-  write: 14,
-  create: 15,
-  end: 16,
-  clear: 17,
-  municipios: 18,
-  check: 19,
-} as const;
+export const enum Event {
+  sync = 0,
+  keyDown = 1,
+  keyUp = 2,
+  insert = 3,
+  paste = 4,
+  cut = 5,
+  input = 6,
+  focus = 7,
+  leave = 8,
+  pick = 9,
+  dropDown = 10,
+  size = 11,
+  set = 12,
+  get = 13,
+  write = 14,
+  create = 15,
+  end = 16,
+  clear = 17,
+  municipios = 18,
+  check = 19,
+}
 
 export const entries = 8; // children that take input; three labels follow
 export const comboPlace = 4;
@@ -74,15 +74,15 @@ export interface ChildNews {
   toolTip: string;
 }
 
-export const Change = {
-  geometry: 1,
-  visible: 2,
-  enabled: 4,
-  color: 8,
-  text: 32,
-  selection: 64,
-  list: 512,
-} as const;
+export const enum Change {
+  geometry = 1,
+  visible = 2,
+  enabled = 4,
+  color = 8,
+  text = 32,
+  selection = 64,
+  list = 512,
+}
 
 export interface FieldNews {
   field: number;

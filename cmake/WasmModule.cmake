@@ -16,7 +16,7 @@ function(gabarito_wasm_module target name)
   endif()
   gabarito_options(${target})
   set_target_properties(${target} PROPERTIES OUTPUT_NAME ${name} SUFFIX .wasm)
-  target_link_options(${target} PRIVATE --no-entry -Oz -fwasm-exceptions -flto -sMALLOC=emmalloc
+  target_link_options(${target} PRIVATE --no-entry -Os -fwasm-exceptions -flto -sMALLOC=emmalloc
                       -sALLOW_MEMORY_GROWTH -sINITIAL_MEMORY=2MB -sTOTAL_STACK=256KB -sERROR_ON_UNDEFINED_SYMBOLS=0
                       -sWARN_ON_UNDEFINED_SYMBOLS=0)
 endfunction()

@@ -2,6 +2,7 @@
 #include <QtCore/QTimer>
 #include <QtGui/QClipboard>
 #include <QtWidgets/QMessageBox>
+#include <QtWidgets/QSpinBox>
 #include <random>
 
 #include "on_window.h"
@@ -10,7 +11,7 @@ namespace gabarito::qt {
 namespace {
 
 class AttackOn : public OnWindow {
- protected:
+ public:
   // Runs `action` while the first message box is open, then closes it if it still is.
   void DuringAMessage(std::function<void()> action) {
     field->setMessageHandler({});
@@ -21,6 +22,17 @@ class AttackOn : public OnWindow {
         if (QWidget* const box = QApplication::activeModalWidget()) box->close();
       });
     });
+  }
+  std::unique_ptr<QWidget> elsewhere;
+  // A new window for the next row.
+  void Renew() {
+    elsewhere.reset();
+    window = std::make_unique<QWidget>();
+    auto* const layout = new QVBoxLayout(window.get());
+    layout->addWidget(before = new QLineEdit);
+    layout->addWidget(field = new GabaritoField);
+    layout->addWidget(after = new QLineEdit);
+    field->setMessageHandler([](const GabaritoField::Message&) { return false; });
   }
   void LeaveWithABadCpf() {
     Show(GabaritoField::gbCPF);
@@ -79,46 +91,101 @@ TEST_F(AttackOn, RefusedDeletesTheField) {
   EXPECT_EQ(Focus(), after);
 }
 
+// Code of the program that runs where nothing of the field's own is told.
+TEST_F(AttackOn, TheFieldIsDeletedInTheMiddleOfItsOwnWork) {
+  const struct {
+    const char* what;
+    const char* typed;
+    std::function<void(AttackOn&, std::function<void()> remove)> act;
+  } rows[] = {
+      {"a check that tells of the leaving first", "11144477735",
+       [](AttackOn& t, auto remove) {
+         QObject::connect(t.field, &GabaritoField::editingFinished, remove);
+         t.after->setFocus();
+         EXPECT_FALSE(t.field->check());
+       }},
+      {"a check that is refused", "123",
+       [](AttackOn& t, auto remove) {
+         QObject::connect(t.field, &GabaritoField::refused, remove);
+         EXPECT_FALSE(t.field->check());
+       }},
+      {"another widget that loses the focus to a refusal", "123",
+       [](AttackOn& t, auto remove) {
+         auto* const number = new QSpinBox;
+         QObject::connect(number, &QSpinBox::editingFinished, remove);
+         t.window->layout()->addWidget(number);
+         number->show();
+         t.Enter(number);
+       }},
+      {"the focus that moves on when a box is hidden", "",
+       [](AttackOn& t, auto remove) {
+         QObject::connect(qApp, &QApplication::focusChanged, t.window.get(), remove,
+                          Qt::SingleShotConnection);
+         t.field->setMask(GabaritoField::gbEstado);
+       }},
+      {"a box that a listener of its own is told of", "",
+       [](AttackOn& t, auto remove) {
+         QObject::connect(t.Box(), &QLineEdit::textChanged, remove);
+         t.Type("1");
+       }},
+      {"another font", "11144477735",
+       [](AttackOn& t, auto remove) {
+         QObject::connect(t.field, &GabaritoField::textChanged, remove);
+         t.field->setFont(QFont(t.field->font().family(), 14));
+       }},
+  };
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.what);
+    Show(GabaritoField::gbCPF);
+    Enter(field);
+    Type(row.typed);
+    row.act(*this, [this] { delete field; });
+    Settle();
+    EXPECT_EQ(field, nullptr);
+    Renew();
+  }
+}
+
 TEST_F(AttackOn, WhileAMessageIsOpen) {
   const struct {
     const char* what;
+    const char* kept;  // in the box afterwards; null when there is none
     std::function<void(AttackOn&)> act;
   } rows[] = {
-      {"delete", [](AttackOn& t) { delete t.field; }},
-      {"hide", [](AttackOn& t) { t.field->hide(); }},
-      {"disable", [](AttackOn& t) { t.field->setEnabled(false); }},
-      {"another kind", [](AttackOn& t) { t.field->setMask(GabaritoField::gbCidadeEstadoPopulado); }},
-      {"another value", [](AttackOn& t) { t.field->setText("11144477735"); }},
-      {"check inside",
+      {"delete", nullptr, [](AttackOn& t) { delete t.field; }},
+      {"hide", "123", [](AttackOn& t) { t.field->hide(); }},
+      {"disable", "123", [](AttackOn& t) { t.field->setEnabled(false); }},
+      {"another kind", nullptr, [](AttackOn& t) { t.field->setMask(GabaritoField::gbCidadeEstadoPopulado); }},
+      {"another value", "111.444.777-35", [](AttackOn& t) { t.field->setText("11144477735"); }},
+      {"check inside", "123",
        [](AttackOn& t) {
          t.field->setMessageMode(GabaritoField::InPlace);
          t.field->check();
        }},
-      {"reparent",
+      {"reparent", "123",
        [](AttackOn& t) {
-         auto* const elsewhere = new QWidget;
-         elsewhere->setAttribute(Qt::WA_DeleteOnClose);
-         t.field->setParent(elsewhere);
-         elsewhere->show();
-         QTimer::singleShot(100, elsewhere, &QWidget::close);
+         t.elsewhere = std::make_unique<QWidget>();
+         t.field->setParent(t.elsewhere.get());
+         t.elsewhere->show();
        }},
-      {"close the window", [](AttackOn& t) { t.window->close(); }},
-      {"delete the window", [](AttackOn& t) { t.window.reset(); }},
+      {"close the window", "123", [](AttackOn& t) { t.window->close(); }},
+      {"delete the window", nullptr, [](AttackOn& t) { t.window.reset(); }},
   };
   for (const auto& row : rows) {
     SCOPED_TRACE(row.what);
     AttackOn* const self = this;
     LeaveWithABadCpf();
+    const QPointer<QLineEdit> box(Box());
     DuringAMessage([self, &row] { row.act(*self); });
     Tab();
-    QTest::qWait(150);
+    QTest::qWait(60);
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
-    // A new one for the next row.
-    window = std::make_unique<QWidget>();
-    auto* const layout = new QVBoxLayout(window.get());
-    layout->addWidget(before = new QLineEdit);
-    layout->addWidget(field = new GabaritoField);
-    layout->addWidget(after = new QLineEdit);
+    const bool there = field != nullptr && field->mask() == GabaritoField::gbCPF;
+    ASSERT_EQ(there, row.kept != nullptr);
+    if (there) {
+      EXPECT_EQ(box->text(), row.kept);
+    }
+    Renew();
   }
 }
 

@@ -75,7 +75,7 @@ void FieldForm::Deliver(const kit::KeyEvent& event) {
   if (bridge_ == nullptr) return;
   const bool tab = event.vk == kVkTab && (event.shift & (kCtrlMask | kAltMask)) == 0;
   if (tab && kit::StepBackInside(*this, event)) {
-    if (!event.up) bridge_->ApplyFocus();
+    if (!event.up && bridge_ != nullptr) bridge_->ApplyFocus();
     return;
   }
   QWindow* window = QGuiApplication::focusWindow();
@@ -150,14 +150,13 @@ void FieldBridge::HandOver() {
 }
 
 void FieldBridge::TurnEnds() {
-  const auto form = form_;
-  Apply();
-  if (form->Bridge() != nullptr) Tell();
+  if (Apply()) Tell();
 }
 
 int FieldBridge::Pause() {
+  const auto form = form_;
   Apply();
-  return std::exchange(form_->depth, 0);
+  return std::exchange(form->depth, 0);
 }
 
 void FieldBridge::Resume(int depth) {
@@ -243,8 +242,8 @@ bool FieldBridge::FocusLeft(QWidget* to) {
   }
   refused_ = false;
   left_ = true;
+  form_->HideNote();
   const auto form = form_;
-  const auto held = model_->SharedParts();
   InTurn([&] { form->focus.Move(*receiver); });
   const kit::Focusable* const focused = form->focus.Focused();
   return focused == nullptr || focused == receiver;
@@ -285,10 +284,12 @@ void FieldBridge::Begin() {
 }
 
 bool FieldBridge::Check() {
+  const auto form = form_;
   FocusWatch::Instance().Tell();
+  if (form->Bridge() == nullptr) return false;
   bool taken = false;
+  form->HideNote();
   InTurn([&] {
-    const auto form = form_;
     refused_ = false;
     (*model_)->Text();
     taken = form->Bridge() != nullptr && !refused_;
@@ -342,11 +343,11 @@ void FieldBridge::FontChanged() {
   if (passing_ || !model_->Exists()) return;
   const StdFont font = FromQt(widget_.font());
   if (font == font_) return StyleChanged();
-  InTurn([&] {
+  const bool here = InTurn([&] {
     font_ = font;
     (*model_)->Font(std::make_shared<StdFont>(font));
   });
-  StyleChanged();
+  if (here) StyleChanged();
 }
 
 // Another font or style makes other measures, and those another layout.
@@ -354,13 +355,13 @@ void FieldBridge::StyleChanged() {
   metric_->Renew();
   kit::FieldParts* const parts = Parts();
   if (passing_ || parts == nullptr) return;
-  InTurn([&] {
+  const bool here = InTurn([&] {
     const kit::KeepContent keep(*model_);
     const float width = metric_->TwipsAcross(widget_.width());
     parts->surface.Size(width, parts->surface.Bounds().height);
     parts->surface.RaiseResize();
   });
-  widget_.updateGeometry();
+  if (here) widget_.updateGeometry();
 }
 
 // The ambient colour of a script is its own.

@@ -105,8 +105,8 @@ class FieldBridge final : public BoxOwner, public ListBoxOwner {
   const std::shared_ptr<FieldForm>& SharedForm() { return form_; }
   const WidgetMetric& Metric() const { return *metric_; }
 
-  // Runs what happens in the field, after the hand-over and before the pass. False when the widget has gone
-  // by then.
+  // Runs what happens in the field, after the hand-over and before the pass; the parts of the field stay till
+  // it ends. False when the widget has gone by then.
   template <class Action>
   bool InTurn(Action action);
   // Around a message box: the pass, and the hand-over when it is gone.
@@ -115,7 +115,8 @@ class FieldBridge final : public BoxOwner, public ListBoxOwner {
 
   // The models take over what the widgets hold; the widgets take over what the models have noted.
   void HandOver();
-  void Apply();
+  // False when the widget has gone by then: Qt's own signals on the way may run anything.
+  bool Apply();
   void ApplyFocus();
   // Delivers the keys that the field has sent.
   void RunQueue();
@@ -159,6 +160,7 @@ class FieldBridge final : public BoxOwner, public ListBoxOwner {
   void KeyReleased(LineBox& box, QKeyEvent& event) override;
   void TextComes(LineBox& box, const QString& text) override;
   void TextSet(LineBox& box) override;
+  void TakeOver(LineBox& box) override;
   void Edited(LineBox& box) override;
   void MousePressed(LineBox& box) override;
   void Picked(int index) override;
@@ -177,12 +179,12 @@ class FieldBridge final : public BoxOwner, public ListBoxOwner {
   QWidget* BoxOf(int index) const;
 
   void TurnEnds();
-  void ApplyChildren();
+  bool ApplyChildren();
   void ApplyInput(int index, kit::Changes changes);
   void ApplyLine(LineBox& line, kit::InputModel& child, kit::Changes changes);
   void ApplyCombo(const kit::ComboModel& combo, kit::Changes changes);
   void ApplyLabel(kit::LabelModel& model, int index, bool fresh);
-  void ApplySurface();
+  bool ApplySurface();
   void ApplyProxy();
   gabarito::Color Ambient() const;
   void Place(QWidget& box, const kit::Geometry& geometry);
@@ -198,7 +200,6 @@ class FieldBridge final : public BoxOwner, public ListBoxOwner {
   void ActOnControl(LineBox& box, QKeyEvent& event, char16_t character);
   void Paste(LineBox& box);
   void TakeSelectionAway(LineBox& box);
-  void TakeOver(LineBox& box);
 
   GabaritoField& widget_;
   std::shared_ptr<FieldForm> form_;
@@ -222,6 +223,7 @@ class FieldBridge final : public BoxOwner, public ListBoxOwner {
 template <class Action>
 bool FieldBridge::InTurn(Action action) {
   const auto form = form_;
+  const auto held = model_->SharedParts();
   ++form->running;
   if (form->depth++ == 0) HandOver();
   try {

@@ -27,7 +27,6 @@ bool IsCommand(const QKeyEvent& event) {
 
 }  // namespace
 
-// The models take over what the widget has done by itself.
 void FieldBridge::TakeOver(LineBox& box) {
   const QString text = box.text();
   Child(box.Index())
@@ -61,7 +60,6 @@ void FieldBridge::KeyPressed(LineBox& box, QKeyEvent& event) {
 
 void FieldBridge::TypeKey(LineBox& box, QKeyEvent& event) {
   const auto form = form_;
-  const auto held = model_->SharedParts();
   kit::InputModel& child = Child(box.Index());
   const Stroke stroke = StrokeOf(event, form->keyboard.Layout());
   if (stroke.IsTab()) return event.ignore();  // nobody else takes the focus
@@ -71,8 +69,7 @@ void FieldBridge::TypeKey(LineBox& box, QKeyEvent& event) {
   const std::u16string clipped = clipboard;
   const kit::KeyAction action = kit::KeyGoesDown(child, stroke.vk, stroke.shift, clipboard);
   if (clipboard != clipped) QGuiApplication::clipboard()->setText(ToQString(clipboard));
-  if (form->Bridge() == nullptr) return;
-  Apply();
+  if (form->Bridge() == nullptr || !Apply()) return;
   if (action == kit::KeyAction::kUsedUp) return;
   if (action == kit::KeyAction::kNative) {
     const bool list = child.Kind() == kit::InputKind::kCombo;
@@ -83,7 +80,7 @@ void FieldBridge::TypeKey(LineBox& box, QKeyEvent& event) {
     if (stroke.text.isEmpty() && !event.text().isEmpty() && stroke.vk != kVkDelete) return event.ignore();
     if (stroke.text.isEmpty() || (form->comfort && IsCommand(event))) {
       box.ActNatively(event);
-      return TakeOver(box);
+      return box.TellOwner();
     }
   }
   if (stroke.text.size() == 1) return TypeCharacter(box, event, stroke.text.front().unicode());
@@ -92,7 +89,6 @@ void FieldBridge::TypeKey(LineBox& box, QKeyEvent& event) {
 
 void FieldBridge::TypeCharacter(LineBox& box, QKeyEvent& event, char16_t character) {
   const auto form = form_;
-  const auto held = model_->SharedParts();
   kit::InputModel& child = Child(box.Index());
   // A dialog around the field waits for Enter and Escape that the field has no use for, and nobody needs to
   // hear that.
@@ -106,8 +102,7 @@ void FieldBridge::TypeCharacter(LineBox& box, QKeyEvent& event, char16_t charact
     throw;
   }
   if (for_dialog) child.Parts().dialogs.DropBeeps();
-  if (form->Bridge() == nullptr) return;
-  Apply();
+  if (form->Bridge() == nullptr || !Apply()) return;
   if (for_dialog && !form->keyboard.Pending()) event.ignore();
   switch (verdict.action) {
     case kit::CharacterAction::kNothing:
@@ -122,7 +117,7 @@ void FieldBridge::TypeCharacter(LineBox& box, QKeyEvent& event, char16_t charact
       box.insert(QString(QChar(character)));
       break;
   }
-  TakeOver(box);
+  box.TellOwner();
 }
 
 // A character of the clipboard or of correction: the widget's own operation. Others do nothing.
@@ -147,7 +142,7 @@ void FieldBridge::ActOnControl(LineBox& box, QKeyEvent& event, char16_t characte
     default:
       return;
   }
-  TakeOver(box);
+  box.TellOwner();
 }
 
 // What there is no room for is cut.
@@ -170,7 +165,6 @@ void FieldBridge::KeyReleased(LineBox& box, QKeyEvent& event) {
   const Stroke stroke = StrokeOf(event, form->keyboard.Layout());
   if (stroke.IsTab()) return;
   InTurn([&] {
-    const auto held = model_->SharedParts();
     kit::InputModel& child = Child(box.Index());
     if (child.CanTakeFocus()) child.KeyUp(stroke.vk, stroke.shift);
   });
@@ -182,7 +176,6 @@ void FieldBridge::TextComes(LineBox& box, const QString& text) {
   if (form->Bridge() == nullptr || !model_->Exists()) return;
   const QPointer<LineBox> line(&box);
   InTurn([&] {
-    const auto held = model_->SharedParts();
     kit::InputModel& child = Child(box.Index());
     if (text.isEmpty()) return TakeSelectionAway(box);
     const kit::TextEdit edit = kit::TextArrives(child, ViewOf(text));
@@ -201,7 +194,7 @@ void FieldBridge::TakeSelectionAway(LineBox& box) {
     return;
   }
   box.del();
-  TakeOver(box);
+  box.TellOwner();
 }
 
 // Assistive technology sets texts past all keys: the former one is put back, and what is new in it comes like

@@ -43,18 +43,21 @@ void Paint(QWidget& box, gabarito::Color color) {
 
 }  // namespace
 
-void FieldBridge::Apply() {
-  kit::FieldParts* const parts = Parts();
-  if (parts == nullptr || passing_) return;
-  const QPointer<GabaritoField> self(&widget_);
+bool FieldBridge::Apply() {
+  if (Parts() == nullptr || passing_) return true;
   const auto form = form_;
+  ++form->running;  // the boxes outlive the pass
   passing_ = true;
-  ApplySurface();
-  if (made_) ApplyChildren();
-  passing_ = false;
+  const bool here = ApplySurface() && (!made_ || ApplyChildren());
+  if (here) passing_ = false;
+  --form->running;
+  return here;
 }
 
-void FieldBridge::ApplySurface() {
+// This and the next are false when the widget has gone: a change of size, font, focus or text is told to
+// filters, to editors that lose the focus and to listeners, and any of them may delete it.
+bool FieldBridge::ApplySurface() {
+  const auto form = form_;
   kit::SurfaceModel& surface = model_->Parts().surface;
   const kit::Changes changes = surface.TakeChanges();
   if (changes.Has(kit::Change::kGeometry)) {
@@ -62,18 +65,23 @@ void FieldBridge::ApplySurface() {
     const int width = metric_->PixelsAcross(surface.Bounds().width);
     widget_.updateGeometry();
     if (widget_.isWindow() || widget_.parentWidget()->layout() == nullptr) widget_.resize(width, height);
+    if (form->Bridge() == nullptr) return false;
   }
   if (StdFont font = *surface.Font(); changes.Has(kit::Change::kFont) && font != font_) {
     font_ = font;
     widget_.setFont(ToQt(font));
+    if (form->Bridge() == nullptr) return false;
     metric_->Renew();
   }
+  return true;
 }
 
 // First what comes up, then the focus, then what goes: Qt moves the focus by itself off a widget that is
 // hidden or disabled with it.
-void FieldBridge::ApplyChildren() {
-  kit::FieldParts& parts = model_->Parts();
+bool FieldBridge::ApplyChildren() {
+  const auto form = form_;
+  const auto held = model_->SharedParts();
+  kit::FieldParts& parts = *held;
   const bool fresh = applied_ != &parts;
   applied_ = &parts;
   bool arrives = false;
@@ -95,19 +103,27 @@ void FieldBridge::ApplyChildren() {
     if (BoxOf(i) == nullptr || !changes[i].Any()) continue;
     moved = moved || changes[i].Has(kit::Change::kVisible) || changes[i].Has(kit::Change::kGeometry);
     ApplyInput(i, changes[i]);
+    if (form->Bridge() == nullptr) return false;
   }
   ApplyFocus();
   for (int i = 0; i < kInputs; ++i) {
+    if (form->Bridge() == nullptr) return false;
     QWidget* const box = BoxOf(i);
     if (box == nullptr) continue;
     kit::InputModel& child = *inputs[static_cast<std::size_t>(i)];
-    if (!IsShown(child) && !box->isHidden()) box->hide();
-    if (IsShown(child) && !child.CanTakeFocus() && box->isEnabledTo(&widget_)) box->setEnabled(false);
+    if (!IsShown(child)) {
+      if (!box->isHidden()) box->hide();
+    } else if (!child.CanTakeFocus() && box->isEnabledTo(&widget_)) {
+      box->setEnabled(false);
+    }
   }
+  if (form->Bridge() == nullptr) return false;
   ApplyProxy();
-  if (!moved) return;
-  NameBoxes();
-  widget_.updateGeometry();
+  if (moved) {
+    NameBoxes();
+    widget_.updateGeometry();
+  }
+  return true;
 }
 
 // What gets the focus that is given to the field as a whole: the child that the field itself would give it
@@ -125,6 +141,7 @@ void FieldBridge::ApplyProxy() {
 }
 
 void FieldBridge::ApplyInput(int index, kit::Changes changes) {
+  const auto form = form_;
   kit::FieldParts& parts = model_->Parts();
   kit::InputModel& child = Child(index);
   QWidget& box = *BoxOf(index);
@@ -133,10 +150,15 @@ void FieldBridge::ApplyInput(int index, kit::Changes changes) {
     Paint(box, kit::VisitInput(child, [](auto& model) { return model.Color(); }));
   }
   if (child.CanTakeFocus() && !box.isEnabledTo(&widget_)) box.setEnabled(true);
+  LineBox& line = *LineOf(index);
   if (index == kCombo) ApplyCombo(parts.Combo1, changes);
-  ApplyLine(*LineOf(index), child, changes);
+  if (form->Bridge() == nullptr) return;
+  ApplyLine(line, child, changes);
+  if (form->Bridge() == nullptr) return;
   if (IsShown(child) && box.isHidden()) box.show();
-  if (index == kCombo && changes.Has(kit::Change::kDroppedDown)) list_->ShowList(parts.Combo1.DroppedDown());
+  if (index == kCombo && changes.Has(kit::Change::kDroppedDown)) {
+    static_cast<ListBox&>(box).ShowList(parts.Combo1.DroppedDown());
+  }
 }
 
 void FieldBridge::ApplyLine(LineBox& line, kit::InputModel& child, kit::Changes changes) {
@@ -157,10 +179,11 @@ void FieldBridge::ApplyLine(LineBox& line, kit::InputModel& child, kit::Changes 
 }
 
 void FieldBridge::ApplyCombo(const kit::ComboModel& combo, kit::Changes changes) {
-  if (changes.Has(kit::Change::kList)) list_->ShowEntries(EntriesModel::For(combo.Entries()));
+  ListBox& list = *list_;
+  if (changes.Has(kit::Change::kList)) list.ShowEntries(EntriesModel::For(combo.Entries()));
   if (changes.Has(kit::Change::kList) || changes.Has(kit::Change::kSelected))
-    list_->ShowSelected(combo.Selected());
-  if (changes.Has(kit::Change::kToolTip)) list_->setToolTip(ToQString(combo.ToolTip()));
+    list.ShowSelected(combo.Selected());
+  if (changes.Has(kit::Change::kToolTip)) list.setToolTip(ToQString(combo.ToolTip()));
 }
 
 void FieldBridge::ApplyLabel(kit::LabelModel& model, int index, bool fresh) {

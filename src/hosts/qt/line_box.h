@@ -22,6 +22,8 @@ class BoxOwner {
   virtual void TextComes(LineBox& box, const QString& text) = 0;
   // The text is another one, by whatever means; only told to who listens.
   virtual void TextSet(LineBox& box) = 0;
+  // The box has changed in the middle of what the owner does with it.
+  virtual void TakeOver(LineBox& box) = 0;
   // A person has changed the text by other means: undo, a menu, the drag of a part of it.
   virtual void Edited(LineBox& box) = 0;
   // A mouse button goes down: what the focus brings has to be over before the click is taken.
@@ -38,6 +40,10 @@ class LineBox final : public QLineEdit {
   int Index() const { return index_; }
   // The owner is about to go.
   void Orphan() { owner_ = nullptr; }
+  // To an owner that a listener to the change may have deleted.
+  void TellOwner() {
+    if (owner_ != nullptr) owner_->TakeOver(*this);
+  }
   // A thin plain frame instead of the style's own.
   void SetFlat(bool flat);
 

@@ -46,7 +46,7 @@ class Designer : public testing::Test {
     ASSERT_NE(sheet, nullptr);
     const int index = sheet->indexOf(QString::fromLatin1(setting.name));
     ASSERT_GE(index, 0) << setting.name;
-    widget->setProperty(setting.name, setting.value);
+    sheet->setProperty(index, setting.value);
     sheet->setChanged(index, true);
   }
 
@@ -66,7 +66,6 @@ TEST_F(Designer, TheSheetShowsTheKindsByTheirNames) {
   const QMetaObject* const meta = field->metaObject();
   const QMetaProperty mask = meta->property(meta->indexOfProperty("mask"));
   ASSERT_TRUE(mask.isEnumType());
-  EXPECT_EQ(mask.enumerator().keyCount(), 23);
   EXPECT_STREQ(mask.enumerator().valueToKey(240), "gbCPF");
   EXPECT_TRUE(mask.isDesignable());
 }

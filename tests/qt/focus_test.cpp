@@ -145,12 +145,11 @@ TEST_F(FocusOf, KeysReachAFieldInAWindowThatIsNotActive) {
   ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
   field->setFocus();
   QTest::keyClicks(Box(0), "10");
-  QWidget* const wanted = Box(1);
   window->activateWindow();
   ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
   Settle();
   EXPECT_EQ(Box(0)->text(), "10");
-  EXPECT_TRUE(Focus() == wanted || Focus() == Box(0));
+  EXPECT_EQ(Focus(), Box(0)) << "what the field sends goes to the active window, as keys of a keyboard do";
 }
 
 TEST_F(FocusOf, ButtonsScrollAreasAndTabsAroundItTakeTheirTurn) {
@@ -176,12 +175,12 @@ TEST_F(FocusOf, ButtonsScrollAreasAndTabsAroundItTakeTheirTurn) {
   for (int i = 0; i < 6; ++i) {
     QTest::keyClick(form.windowHandle(), Qt::Key_Tab);
     Settle();
-    visited.append(form.focusWidget()->metaObject()->className() + QString(":") +
-                   form.focusWidget()->accessibleName());
+    QWidget* const focus = form.focusWidget();
+    visited.append(page->isAncestorOf(focus)    ? "CPF"
+                   : inner->isAncestorOf(focus) ? focus->accessibleName()
+                                                : focus->metaObject()->className());
   }
-  EXPECT_TRUE(visited.contains("gabarito::qt::LineBox:mês")) << visited.join(' ').toStdString();
-  EXPECT_TRUE(visited.contains("gabarito::qt::LineBox:ano"));
-  EXPECT_TRUE(visited.contains("QPushButton:"));
+  EXPECT_EQ(visited.join(' ').toStdString(), "QScrollArea mês ano QTabBar CPF QPushButton");
 }
 
 TEST_F(FocusOf, EnterPressesTheButtonOfADialogUnlessItMovesOn) {

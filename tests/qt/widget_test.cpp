@@ -10,6 +10,7 @@
 #include <QtWidgets/QStyledItemDelegate>
 #include <QtWidgets/QTableView>
 
+#include "gabarito/control/especie.h"
 #include "on_window.h"
 #include "ui_form.h"
 
@@ -42,9 +43,24 @@ TEST_F(WidgetOf, EveryPropertyReadsBackWhatWasWritten) {
     const bool number = row.value.typeId() == QMetaType::Int;  // of an enum too
     EXPECT_TRUE(number ? read.toInt() == row.value.toInt() : read == row.value) << row.name;
   }
-  EXPECT_EQ(QMetaEnum::fromType<GabaritoField::Mask>().keyCount(), 23);
   EXPECT_STREQ(GabaritoField::staticMetaObject.userProperty().name(), "text");
   EXPECT_EQ(field->property("maskText"), "##-##") << "another kind leaves it in place";
+}
+
+TEST_F(WidgetOf, ItsKindsAreThoseOfTheField) {
+  const QMetaEnum own = QMetaEnum::fromType<GabaritoField::Mask>();
+  EXPECT_EQ(own.keyCount(), static_cast<int>(Especies().size()));
+  for (const EspecieDescrita& kind : Especies()) {
+    EXPECT_EQ(own.keyToValue(std::string(kind.nome).c_str()), kind.valor) << kind.nome;
+  }
+}
+
+TEST_F(WidgetOf, AnInvalidColourIsNone) {
+  Show(GabaritoField::gbCPF);
+  field->setBackColor(QColor(10, 20, 30));
+  EXPECT_EQ(Box()->palette().color(QPalette::Base), QColor(10, 20, 30));
+  field->setBackColor(QColor());
+  EXPECT_EQ(Box()->palette().color(QPalette::Base), window->palette().color(QPalette::Base));
 }
 
 TEST_F(WidgetOf, ReadingTheTextOnlyLooks) {
@@ -349,21 +365,80 @@ TEST_F(WidgetOf, WhatAssistiveTechnologyWritesPassesTheFilter) {
   QAccessible::setActive(false);
 }
 
-TEST_F(WidgetOf, AMessageInPlaceWaitsForNobodyAndGoesWithTheNextKey) {
-  Show(GabaritoField::gbCPF);
-  field->setMessageHandler({});
-  field->setMessageMode(GabaritoField::InPlace);
-  Enter(field);
-  Type("123");
+class NoteOf : public WidgetOf {
+ protected:
+  void Refuse() {
+    field->setMessageHandler({});
+    field->setMessageMode(GabaritoField::InPlace);
+    Show(GabaritoField::gbCPF);
+    Enter(field);
+    Box()->clear();
+    Type("123");
+    Tab();
+  }
+  QLabel* Note() const {
+    for (QLabel* const note : window->findChildren<QLabel*>("gabarito_note")) {
+      if (note->isVisible()) return note;
+    }
+    return nullptr;
+  }
+};
+
+TEST_F(NoteOf, WaitsForNobodyAndGoesWithWhatItSpeaksOf) {
+  const struct {
+    const char* what;
+    std::function<void(NoteOf&)> act;
+  } rows[] = {
+      {"a key", [](NoteOf& t) { t.Type("1"); }},
+      {"a value", [](NoteOf& t) { t.field->setText("11144477735"); }},
+      {"another kind", [](NoteOf& t) { t.field->setMask(GabaritoField::gbData); }},
+      {"emptied", [](NoteOf& t) { t.field->apagaCampos(); }},
+      {"left with a value that came without a key",
+       [](NoteOf& t) {
+         t.Box()->setText("11144477735");
+         t.Enter(t.after);
+         EXPECT_EQ(t.Focus(), t.after);
+       }},
+      {"checked",
+       [](NoteOf& t) {
+         t.Box()->setText("11144477735");
+         EXPECT_TRUE(t.field->check());
+       }},
+      {"hidden", [](NoteOf& t) { t.field->hide(); }},
+      {"on another window", [](NoteOf& t) { t.field->setParent(nullptr); }},
+  };
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.what);
+    window->layout()->addWidget(field);
+    field->show();
+    Refuse();
+    ASSERT_NE(Note(), nullptr);
+    EXPECT_EQ(Note()->text(), "O CPF informado é inválido.");
+    EXPECT_EQ(field->accessibleDescription(), Note()->text()) << "and is announced";
+    EXPECT_EQ(Focus(), Box());
+    row.act(*this);
+    EXPECT_EQ(Note(), nullptr);
+    EXPECT_TRUE(field->accessibleDescription().isEmpty());
+  }
+  delete field;
+}
+
+TEST_F(NoteOf, StandsInsideTheWindowBesideTheField) {
+  for (const int down : {0, 2}) {
+    auto* const rows = static_cast<QVBoxLayout*>(window->layout());
+    rows->insertWidget(down, field);
+    Refuse();
+    window->resize(400, window->minimumSizeHint().height());
+    Settle();
+    Tab();
+    ASSERT_NE(Note(), nullptr);
+    EXPECT_TRUE(window->rect().contains(Note()->geometry())) << down;
+    EXPECT_FALSE(field->geometry().intersects(Note()->geometry())) << down;
+    EXPECT_EQ(Note()->y() < field->y(), down == 2);
+  }
+  window->resize(window->minimumSizeHint().width(), window->height());
   Tab();
-  auto* const note = window->findChild<QLabel*>("gabarito_note");
-  ASSERT_NE(note, nullptr);
-  EXPECT_EQ(note->text(), "O CPF informado é inválido.");
-  EXPECT_EQ(field->accessibleDescription(), note->text()) << "and is announced";
-  EXPECT_EQ(Focus(), Box());
-  Type("1");
-  Settle();
-  EXPECT_TRUE(field->accessibleDescription().isEmpty());
+  EXPECT_TRUE(window->rect().contains(Note()->geometry())) << "in a narrow window";
 }
 
 }  // namespace

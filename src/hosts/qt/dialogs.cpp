@@ -5,6 +5,7 @@
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QMessageBox>
+#include <algorithm>
 
 #include "hosts/kit/message_buttons.h"
 #include "hosts/qt/field_bridge.h"
@@ -63,10 +64,13 @@ std::int32_t WidgetDialogs::Ask(const GabaritoField::Message& message, std::int3
   return button == QMessageBox::Yes ? kAnswerYes : kAnswerNo;
 }
 
-// A line right under the field, over whatever stands there, so that showing it moves nothing.
+// Right under the field, over whatever stands there, so that showing it moves nothing. A field that is not on
+// show has none.
 void WidgetDialogs::ShowNote(const QString& text) {
   HideNote();
-  auto* const note = new QLabel(text, field_->window());
+  if (!field_->isVisible()) return;
+  QWidget& window = *field_->window();
+  auto* const note = new QLabel(text, &window);
   note->setTextFormat(Qt::PlainText);
   note->setObjectName(QStringLiteral("gabarito_note"));
   note->setAutoFillBackground(true);
@@ -76,7 +80,17 @@ void WidgetDialogs::ShowNote(const QString& text) {
   note->setFrameShape(QFrame::Box);
   note->setAttribute(Qt::WA_TransparentForMouseEvents);
   note->adjustSize();
-  note->move(field_->mapTo(field_->window(), QPoint(0, field_->height())));
+  if (note->width() > window.width()) {
+    note->setWordWrap(true);
+    note->resize(window.width(), note->heightForWidth(window.width()));
+  }
+  // Above it where there is no room below, and always inside the window.
+  const QRect place(field_->mapTo(&window, QPoint()), field_->size());
+  const int lowest = window.height() - note->height();
+  int top = place.bottom() + 1;
+  if (top > lowest) top = place.top() - note->height();
+  if (top < 0) top = std::max(lowest, 0);
+  note->move(std::clamp(place.left(), 0, window.width() - note->width()), top);
   note->raise();
   note->show();
   note_ = note;

@@ -35,6 +35,7 @@ QString GabaritoField::text() const {
 }
 
 void GabaritoField::setText(const QString& text) {
+  bridge_->Form().HideNote();
   bridge_->Change([&](gabarito::Gabarito& field) { field.Text(ViewOf(text)); });
 }
 
@@ -46,6 +47,7 @@ bool GabaritoField::check() { return bridge_->Check(); }
 GabaritoField::Mask GabaritoField::mask() const { return static_cast<Mask>((*bridge_->Model()).Mask()); }
 
 void GabaritoField::setMask(Mask mask) {
+  bridge_->Form().HideNote();
   bridge_->Change([&](gabarito::Gabarito& field) { field.Mask(mask); });
 }
 
@@ -96,6 +98,7 @@ QColor GabaritoField::backColor() const {
 }
 
 void GabaritoField::setBackColor(const QColor& color) {
+  if (!color.isValid()) return resetBackColor();
   const gabarito::Color own = gabarito::qt::FromQColor(color);
   bridge_->Change([&](gabarito::Gabarito& field) { field.BackColor(own); });
 }
@@ -141,6 +144,7 @@ void GabaritoField::setMessageHandler(MessageHandler handler) {
 void GabaritoField::setKeyHandler(KeyHandler handler) { bridge_->keyHandler = std::move(handler); }
 
 void GabaritoField::apagaCampos() {
+  bridge_->Form().HideNote();
   bridge_->Change([](gabarito::Gabarito& field) { field.ApagaCampos(); });
 }
 
@@ -161,6 +165,10 @@ bool GabaritoField::event(QEvent* event) {
     if (bridge_ != nullptr) bridge_->StyleChanged();
     return done;
   }
+  // Also on its way to another parent. The note stands on the window, which stays.
+  if (event->type() == QEvent::Hide && !event->spontaneous() && bridge_ != nullptr) {
+    bridge_->Form().HideNote();
+  }
   return QWidget::event(event);
 }
 
@@ -178,6 +186,6 @@ void GabaritoField::resizeEvent(QResizeEvent* event) {
 }
 
 void GabaritoField::showEvent(QShowEvent* event) {
-  bridge_->Shown();
   QWidget::showEvent(event);
+  bridge_->Shown();
 }

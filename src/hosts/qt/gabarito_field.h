@@ -86,7 +86,9 @@ class GabaritoField : public QWidget {
   // Where messages go when no function is set for them.
   enum MessageMode {
     MessageBox,  // a modal QMessageBox whose parent is the window
-    InPlace,  // a note under the field that waits for nobody; a question is answered with its default button
+    // A note under the field that waits for nobody and goes with the next key, value or check, when the field
+    // is left, and with the field; a question is answered with its default button.
+    InPlace,
   };
   Q_ENUM(MessageMode)
 
@@ -137,7 +139,7 @@ class GabaritoField : public QWidget {
   // Colour the box with the focus pastel.
   bool usarFundoPastel() const;
   void setUsarFundoPastel(bool on);
-  // Of the boxes until the focus next comes or goes, and of the list for good.
+  // Of the boxes until the focus next comes or goes, and of the list for good. An invalid colour resets it.
   QColor backColor() const;
   void setBackColor(const QColor& color);
   void resetBackColor();

@@ -24,6 +24,7 @@ export const enum Event {
   clear = 17,
   municipios = 18,
   check = 19,
+  look = 20,
 }
 
 export const entries = 8; // children that take input; three labels follow
@@ -105,7 +106,7 @@ export interface Answer {
 const newsValue = 1;
 const newsHeight = 2;
 const headWords = 5;
-const wide = new TextDecoder('utf-16le');
+const wide = new TextDecoder('utf-16le', { ignoreBOM: true });
 
 class Reader {
   constructor(

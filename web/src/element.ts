@@ -1,10 +1,10 @@
 // <gabarito-field>: the field as a form control of the page.
 
 import { Event, surfacePlace, untold, type FieldNews, type Held } from './bridge.js';
-import { FieldValue, something } from './field_value.js';
+import { FieldValue, asTyped } from './field_value.js';
 import { kindOf, kinds, type Kind } from './kinds.js';
 import { Messages } from './messages.js';
-import { labelsOf, nameEntry } from './names.js';
+import { labelledBy, labelsOf, nameEntry } from './names.js';
 import type { Page } from './page.js';
 import { Property, type PropertyName } from './properties.js';
 import { FieldSettings, type Value } from './settings.js';
@@ -20,8 +20,6 @@ const custom = kinds.gbDefUsr!.number;
 // In which a new field takes over what it was asked for: words before the mask whose layout shows them.
 const order: readonly PropertyName[] = ['appearance', 'comboItens', 'maxLength', 'usarFundoPastel', 'trataEnterComoTab',
   'preencherDatasInvalidasComDataDeHoje', 'cnpjAlfanumerico', 'mask', 'maskText'];
-// As properties that a page may have set before the element's script was there.
-const early = ['mask', 'maskText', 'value', 'comboItens', 'disabled', 'required', 'readOnly'] as const;
 
 export interface KeyUp {
   keyCode: number;
@@ -44,7 +42,7 @@ const idle = (work: () => void) => (globalThis.requestIdleCallback ?? setTimeout
  */
 export class GabaritoField extends FieldValue implements Owner {
   static override readonly observedAttributes = [
-    ...FieldSettings.observedAttributes, 'value', 'readonly', 'required', 'placeholder', 'aria-label',
+    ...FieldSettings.observedAttributes, 'value', 'readonly', 'required', 'placeholder', 'aria-label', 'aria-labelledby',
   ];
   // The module, once for all elements; set by index.ts.
   private static page: Page | undefined;
@@ -83,13 +81,18 @@ export class GabaritoField extends FieldValue implements Owner {
   // --- Life ---------------------------------------------------------------------------------------------------------
 
   connectedCallback(): void {
-    for (const name of early) this.upgrade(name);
+    // A page may have set properties before the element's script was there: they would stand in front of these.
+    for (const name of Object.keys(this)) if (name in GabaritoField.prototype) this.upgrade(name);
     if (this.view || this.plain) return;
     if (GabaritoField.page) return this.startSoon(GabaritoField.page);
     this.makePlain();
+    GabaritoField.nameSoon([this]);
     GabaritoField.source().then(
       (page) => this.startSoon((GabaritoField.page = page)),
-      () => this.messages.tell('O campo não pôde ser carregado: o que for digitado segue sem conferência.'),
+      () => {
+        this.messages.tell('O campo não pôde ser carregado: o que for digitado segue sem conferência.');
+        this.nameAll();
+      },
     );
   }
 
@@ -121,7 +124,7 @@ export class GabaritoField extends FieldValue implements Owner {
     // A move is a way out and a way in at once: only what stays out ends.
     queueMicrotask(() => {
       if (this.isConnected || !this.view) return;
-      this.pending = this.value;
+      this.pending = this.state;
       this.stop();
     });
   }
@@ -131,28 +134,25 @@ export class GabaritoField extends FieldValue implements Owner {
     this.view?.page.watch(this.ownerDocument);
   }
 
-  private upgrade(name: (typeof early)[number]): void {
-    if (!Object.hasOwn(this, name)) return;
-    const value = this[name];
-    delete this[name];
-    (this as Record<string, unknown>)[name] = value;
+  private upgrade(name: string): void {
+    const value: unknown = Reflect.get(this, name);
+    Reflect.deleteProperty(this, name);
+    Reflect.set(this, name, value);
   }
 
   private makePlain(): void {
     const input = this.ownerDocument.createElement('input');
     input.className = 'box wide plain';
     input.setAttribute('part', 'box');
-    input.value = this.pending ?? this.getAttribute('value') ?? '';
+    input.value = this.pending === undefined ? (this.getAttribute('value') ?? '') : this.value;
     input.disabled = this.matches(':disabled');
-    this.label = this.getAttribute('aria-label') ?? '';
-    nameEntry(input, 0, this);
     input.addEventListener('input', () => {
       this.dirty = true;
-      this.internals.setFormValue(input.value);
+      this.submitNow();
     });
     this.plain = input;
     this.frame.append(input);
-    this.internals.setFormValue(input.value);
+    this.submitNow();
   }
 
   private start(page: Page, width: number): void {
@@ -166,9 +166,10 @@ export class GabaritoField extends FieldValue implements Owner {
     view.width = width;
     const text = typed ?? this.pending ?? this.getAttribute('value') ?? '';
     this.pending = undefined;
-    this.create(view, text === '');
+    this.create(view, text === '' || text.startsWith(asTyped));
     if (text === '') this.settle();
-    else this.write(text);
+    else if (typed) this.writeTyped(typed);
+    else this.restore(text);
     if (this.matches(':disabled')) this.set('enabled', false);
     observeSize(this);
     if (focused || (this.autofocus && this.ownerDocument.activeElement === this.ownerDocument.body)) this.focus();
@@ -192,7 +193,7 @@ export class GabaritoField extends FieldValue implements Owner {
     const view = this.view;
     this.view = undefined;
     view?.close();
-    this.frame.replaceChildren();
+    view?.reset();
   }
 
   resize(width: number): void {
@@ -218,7 +219,7 @@ export class GabaritoField extends FieldValue implements Owner {
     this.settings.set(name, value);
     const { view } = this;
     if (!view) return;
-    const kept = name === 'mask' || name === 'maskText' || name === 'comboItens' ? '' : this.value;
+    const kept = name === 'mask' || name === 'maskText' || name === 'comboItens' ? '' : this.state;
     this.hand(name, value);
     if (name === 'mask' || name === 'maskText') {
       this.clearRefusal();
@@ -226,8 +227,8 @@ export class GabaritoField extends FieldValue implements Owner {
       this.write('');
     } else if (name === 'comboItens') {
       if (this.maskValue === kinds.gbListaNoCombo!.number) this.hand('mask', this.maskValue);
-    } else if (kept !== '' && view.shownText() === '') {
-      this.write(kept);
+    } else if (kept !== '' && view.page.look(view.number) === '') {
+      this.restore(kept);
     }
   }
 
@@ -247,13 +248,12 @@ export class GabaritoField extends FieldValue implements Owner {
     this.messages.tell('Carregando os municípios…');
     view.page.wantMunicipios().then((there) => {
       if (this.view !== view || this.maskValue !== populated) return;
-      const typed = view.shownText();
       const focused = this.matches(':focus-within');
       show(there ? populated : plainCity);
       this.messages.tell(
         there ? '' : 'Sem conexão: a lista de municípios não pôde ser carregada. Digite a cidade e escolha o estado.',
       );
-      this.write(typed !== '' ? typed : this.wanted);
+      this.write(this.wanted);
       if (focused) this.focus();
     });
   }
@@ -276,8 +276,7 @@ export class GabaritoField extends FieldValue implements Owner {
   edited(): void {
     this.dirty = true;
     this.clearRefusal();
-    this.internals.setFormValue(this.value);
-    this.validate();
+    this.submitNow();
   }
 
   changed(): void {
@@ -307,6 +306,7 @@ export class GabaritoField extends FieldValue implements Owner {
     this.root.removeEventListener('input', this.firstInput);
     this.typing = new Typing(view, this, this.root);
     this.messages.prepare();
+    this.nameEntries();
   }
 
   // A program may write into an entry that never had the focus.
@@ -340,7 +340,10 @@ export class GabaritoField extends FieldValue implements Owner {
   // --- What the field does ------------------------------------------------------------------------------------------
 
   showed(news: FieldNews): void {
-    if (news.value !== undefined) this.committed = something.test(news.value) ? news.value : '';
+    if (news.value === undefined) return;
+    // Nothing of a value is no value: a bare "/" or "#" is not submitted.
+    const nothing = news.value !== '' && this.view?.page.look(news.field) === '';
+    this.committed = nothing ? '' : news.value;
   }
 
   // The field has been left and has had its say.
@@ -359,6 +362,7 @@ export class GabaritoField extends FieldValue implements Owner {
 
   message(text: string, title: string | null, flags: number): number {
     const answer = this.messages.message(text, title, flags);
+    this.nameEntries();
     this.validate();
     return answer;
   }
@@ -381,9 +385,13 @@ export class GabaritoField extends FieldValue implements Owner {
   }
 
   private nameAll(labels = labelsOf([this])): void {
-    this.label = this.getAttribute('aria-label') || labels.get(this) || this.mask;
-    if (this.plain) nameEntry(this.plain, 0, this);
-    this.view?.inputs.forEach((input, place) => input && nameEntry(input, place, this));
+    this.label = labelledBy(this) || this.getAttribute('aria-label') || labels.get(this) || this.mask;
+    if (this.plain) nameEntry(this.plain, -1, this);
+    this.nameEntries();
     this.internals.ariaLabel = this.label;
+  }
+
+  private nameEntries(): void {
+    this.view?.inputs.forEach((input, place) => input && nameEntry(input, place, this));
   }
 }

@@ -6,8 +6,8 @@ import { Property, type PropertyName } from './properties.js';
 import { FieldSettings } from './settings.js';
 import type { FieldView } from './view.js';
 
-// Nothing of a value is no value: a bare "/" or "#" is not submitted.
-export const something = /[\p{L}\p{N}]/u;
+// In front of what a person has typed, box by box, where else a value stands.
+export const asTyped = '\0';
 
 export abstract class FieldValue extends FieldSettings {
   protected abstract readonly messages: Messages;
@@ -25,11 +25,14 @@ export abstract class FieldValue extends FieldSettings {
     return view?.page.send(view.number, Event.get, Property[name]).result;
   }
 
-  // The value as a form submits it: as the last check left it or, while a person is at work on it, what is shown.
+  // The value as a form submits it: as the last check left it or, while a person is at work on it, what the check would
+  // make of it, and where it would refuse what is shown.
   // Reading it checks nothing.
   get value(): string {
-    if (!this.view) return this.plain?.value ?? this.pending ?? '';
-    return this.dirty ? this.view.shownText() : this.committed;
+    if (!this.view) {
+      return this.plain?.value ?? (this.pending?.startsWith(asTyped) ? this.wanted : (this.pending ?? ''));
+    }
+    return this.dirty ? this.view.shownValue() : this.committed;
   }
   set value(text: string) {
     this.dirty = false;
@@ -39,7 +42,7 @@ export abstract class FieldValue extends FieldSettings {
     else {
       this.pending = value;
       if (this.plain) this.plain.value = value;
-      this.internals.setFormValue(value);
+      this.submitNow();
     }
   }
 
@@ -77,16 +80,45 @@ export abstract class FieldValue extends FieldSettings {
     this.settle();
   }
 
+  // What a person has typed goes in unchecked, and as it stands where the field can take nothing of it.
+  protected writeTyped(text: string): void {
+    const view = this.view!;
+    this.dirty = true;
+    if (text.startsWith(asTyped)) view.retype(text.slice(1));
+    else {
+      view.page.send(view.number, Event.write, 1, 0, 0, undefined, text);
+      if (view.page.look(view.number) === '') {
+        view.retype(asTyped.repeat(view.inputs.findIndex((input) => input && !input.hidden)) + text);
+      }
+    }
+    this.submitNow();
+  }
+
+  protected restore(state: string): void {
+    if (state.startsWith(asTyped)) this.writeTyped(state);
+    else this.write(state);
+  }
+
+  // What brings this content back, typed or checked.
+  protected get state(): string {
+    return this.dirty && this.view ? asTyped + this.view.typed() : this.value;
+  }
+
+  protected submitNow(): void {
+    const { value } = this;
+    if (this.dirty) this.wanted = value;
+    this.internals.setFormValue(value, this.state);
+    this.validate();
+  }
+
   protected settle(): void {
     this.dirty = false;
-    const { value } = this;
-    this.internals.setFormValue(value, value);
-    this.validate();
+    this.submitNow();
   }
 
   protected validate(): void {
     const { refusal } = this.messages;
-    const fault = refusal || (this.required && !something.test(this.value) ? 'Preencha este campo.' : '');
+    const fault = refusal || (this.required && this.value === '' ? 'Preencha este campo.' : '');
     if (fault === '' && this.fault === '') return;
     this.fault = fault;
     const anchor = this.view?.inputs.find((input) => input && !input.hidden) ?? this.plain;
@@ -120,7 +152,10 @@ export abstract class FieldValue extends FieldSettings {
     this.value = this.getAttribute('value') ?? '';
   }
   formStateRestoreCallback(state: string | File | FormData | null): void {
-    if (typeof state === 'string') this.value = state;
+    if (typeof state !== 'string') return;
+    if (this.view) return this.restore(state);
+    this.value = this.wanted = state.replaceAll(asTyped, '');
+    this.pending = state;
   }
 
   // What is still being typed is checked before it goes.

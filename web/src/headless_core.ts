@@ -33,7 +33,9 @@ export class FieldError extends Error {
   }
 }
 
-const wide = new TextDecoder('utf-16le');
+const wide = new TextDecoder('utf-16le', { ignoreBOM: true });
+
+const keptFields = 64; // of `clean`, one for each kind and its properties
 
 export interface Headless {
   // One value through the rules of a kind, as `gabarito batch` does with a line.
@@ -155,8 +157,15 @@ export async function load(source: Source | Promise<Source>): Promise<Headless> 
     field: (mask, properties) => new Field(module, mask, properties),
     clean: (mask, text, properties) => {
       const key = JSON.stringify([mask, properties]);
-      let field = kept.get(key);
-      if (!field) kept.set(key, (field = new Field(module, mask, properties)));
+      const field = kept.get(key) ?? new Field(module, mask, properties);
+      // The one used last goes to the end.
+      kept.delete(key);
+      kept.set(key, field);
+      if (kept.size > keptFields) {
+        const [oldest] = kept.entries().next().value!;
+        kept.get(oldest)!.end();
+        kept.delete(oldest);
+      }
       return field.clean(text);
     },
   };

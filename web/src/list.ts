@@ -18,6 +18,7 @@ export class ListPopup {
   private rowHeight = 0;
   private selected = -1;
   private open = false;
+  private window: Window | null = null; // that it follows while it is open
 
   constructor(
     root: ShadowRoot,
@@ -79,12 +80,13 @@ export class ListPopup {
     this.element.hidden = !open;
     if (open) {
       this.element.showPopover?.();
-      addEventListener('scroll', this.follow, { capture: true, passive: true });
-      addEventListener('resize', this.follow);
+      this.window = this.element.ownerDocument.defaultView;
+      this.window?.addEventListener('scroll', this.follow, { capture: true, passive: true });
+      this.window?.addEventListener('resize', this.follow);
     } else {
       if (this.element.matches(':popover-open')) this.element.hidePopover();
-      removeEventListener('scroll', this.follow, { capture: true });
-      removeEventListener('resize', this.follow);
+      this.window?.removeEventListener('scroll', this.follow, { capture: true });
+      this.window?.removeEventListener('resize', this.follow);
       this.reset();
     }
   }

@@ -35,7 +35,7 @@ export function significant(value: number, digits: number): string {
   return `${kept[0]}${digits > 1 ? '.' : ''}${kept.slice(1)}e${exponent}`;
 }
 
-const wide = new TextDecoder('utf-16le');
+const wide = new TextDecoder('utf-16le', { ignoreBOM: true });
 
 export class Module {
   readonly exports: Exports;

@@ -27,12 +27,19 @@ export function labelsOf(fields: readonly Element[]): Map<Element | null, string
   return texts;
 }
 
+export function labelledBy(field: Element): string {
+  const root = field.getRootNode() as Document;
+  const ids = field.getAttribute('aria-labelledby')?.split(/\s+/) ?? [];
+  return ids.map((id) => root.getElementById?.(id)?.textContent?.trim() ?? '').join(' ').trim();
+}
+
 function put(input: HTMLInputElement, name: string, value: string | null): void {
   if (input.getAttribute(name) === value) return;
   if (value === null) input.removeAttribute(name);
   else input.setAttribute(name, value);
 }
 
+// `place` is -1 for an entry that stands for the whole field.
 export function nameEntry(input: HTMLInputElement, place: number, field: Named): void {
   const { kind } = field;
   const box = kind.boxes?.[place === comboPlace ? 1 : place > comboPlace ? place - comboPlace - 1 : place];

@@ -1,7 +1,7 @@
 // The page's side of the module: hands calls in, answers out to the fields that they are about, and keeps the one
 // logical focus and the browser's in step.
 
-import { Bridge, Event, type Answer, type FieldNews, type Held } from './bridge.js';
+import { Bridge, Event, untold, type Answer, type FieldNews, type Held } from './bridge.js';
 import { Module, type Calls, type Source } from './module.js';
 import { nextTabStop } from './tab_order.js';
 
@@ -99,6 +99,14 @@ export class Page implements Calls {
     this.apply(answer);
     if (answer.error !== 0) throw new FieldError(answer.error, answer.result);
     return answer;
+  }
+
+  // Looks at a field: '' when its boxes show nothing of a value, else "=" and the value that it would hand in now, ''
+  // where it would refuse. Nothing on the page changes.
+  look(field: number): string {
+    this.handOverStale(field, undefined);
+    const { error, result } = this.bridge.call(field, Event.look, 0, 0, 0, untold);
+    return error === 0 ? result : '=';
   }
 
   apply(answer: Answer): void {

@@ -59,7 +59,7 @@ export abstract class FieldSettings extends FormControl {
     return (this.settings.get('comboItens') as readonly string[] | undefined) ?? [];
   }
   set comboItens(words: readonly string[]) {
-    this.set('comboItens', words.map(String));
+    this.set('comboItens', (words ?? []).map(String));
   }
 
   get maxLength(): number {

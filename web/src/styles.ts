@@ -113,10 +113,10 @@ const sheets = new WeakMap<Document, CSSStyleSheet>();
 // One sheet a document: all fields share it, and an element that moves to another document takes that one's.
 export function styleRoot(root: ShadowRoot): void {
   const document = root.ownerDocument;
+  if (!document.defaultView) return; // of a template: nothing shows there
   let sheet = sheets.get(document);
   if (!sheet) {
-    const Sheet = document.defaultView?.CSSStyleSheet ?? CSSStyleSheet;
-    sheet = new Sheet();
+    sheet = new document.defaultView.CSSStyleSheet();
     sheet.replaceSync(css);
     sheets.set(document, sheet);
   }

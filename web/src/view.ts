@@ -96,13 +96,30 @@ export class FieldView implements View {
     return held;
   }
 
-  // All that is shown, boxes and separators, as one text: what the field would hand in unchecked.
-  shownText(): string {
+  // What the field would hand in now; where it would be refused, all that is shown as one text.
+  shownValue(): string {
+    const seen = this.page.look(this.number);
+    if (seen.length !== 1) return seen.slice(1);
     const shown = this.children.filter((child) => child?.visible) as ChildNews[];
     const texts = shown.sort((a, b) => a.left - b.left).map(({ place, text }) =>
-      place < entries ? this.textOf(place) : (text ?? '').trim(),
+      place < entries ? this.textOf(place) : text,
     );
-    return texts.some((text, i) => text !== '' && i % 2 === 0) ? texts.join('') : '';
+    return texts.join('');
+  }
+
+  // What a person has entered, box by box, and the way back.
+  typed(): string {
+    return Array.from(this.inputs, (input, place) => (input && !input.hidden ? this.textOf(place) : '')).join('\0');
+  }
+
+  retype(typed: string): void {
+    typed.split('\0').forEach((text, place) => {
+      const input = this.inputs[place];
+      if (!input || input.hidden || text === this.textOf(place)) return;
+      this.known[place] = text;
+      input.value = place === maskedPlace ? text.replace(prompt, blank) : text;
+      this.page.send(this.number, Event.sync, 0, 0, 0, { child: place, text, start: text.length, length: 0 });
+    });
   }
 
   // A new field in the place of the old one.
@@ -233,6 +250,7 @@ export class FieldView implements View {
       count: () => this.children[comboPlace]?.count ?? 0,
       entry: (index) => this.page.entry(this.number, index),
       pick: (index) => {
+        if (input.disabled || input.readOnly) return;
         this.page.send(this.number, Event.pick, index, 0, 0, this.held(comboPlace));
         this.owner.changed();
       },
@@ -245,6 +263,7 @@ export class FieldView implements View {
     // The focus goes to the entry, as in a box of one piece.
     open.addEventListener('mousedown', (event) => event.preventDefault());
     open.addEventListener('click', () => {
+      if (input.disabled || input.readOnly) return;
       const shut = !this.list!.isOpen;
       input.focus();
       this.page.send(this.number, Event.dropDown, shut ? 1 : 0);
@@ -310,6 +329,7 @@ export class FieldView implements View {
     const input = this.inputs[place]!;
     if (place === maskedPlace) return; // the engine has done it
     input.setSelectionRange(edit.start, edit.start + edit.removed);
+    const { ownerDocument: document } = input;
     const done = edit.text === '' ? document.execCommand('delete') : document.execCommand('insertText', false, edit.text);
     if (!done) input.setRangeText(edit.text, edit.start, edit.start + edit.removed, 'end');
     input.setSelectionRange(edit.caret, edit.caret);

@@ -65,7 +65,11 @@ describe('accessibility', () => {
       await (await Keyboard.on(page)).page.keyboard.type('11144477734');
       await page.keyboard.press('Tab');
       await settle(page);
-      assert.equal(await page.evaluate(() => boxes('cpf')[0].getAttribute('aria-invalid')), 'true');
+      assert.deepEqual(await page.evaluate(() => {
+        const [box] = boxes('cpf');
+        const note = box.getRootNode().getElementById(box.getAttribute('aria-describedby'));
+        return [box.getAttribute('aria-invalid'), note?.textContent];
+      }), ['true', 'O CPF informado é inválido.']);
     }],
     ['refused, dark', { features: dark }, async (page) => {
       await page.evaluate(() => document.querySelector('#cpf').focus());
@@ -116,6 +120,18 @@ describe('accessibility', () => {
     const snapshot = await page.accessibility.snapshot({ interestingOnly: true });
     const names = JSON.stringify(snapshot);
     assert.match(names, /"name":"CPF"/);
+    await page.close();
+  });
+
+  test('a name that stands elsewhere is the box\'s', async () => {
+    const page = await playground();
+    const name = await page.evaluate(() => {
+      const elsewhere = Object.assign(document.createElement('p'), { id: 'elsewhere', textContent: 'Meu CPF' });
+      document.querySelector('main').append(elsewhere);
+      document.querySelector('#cpf').setAttribute('aria-labelledby', 'elsewhere');
+      return boxes('cpf')[0].getAttribute('aria-label');
+    });
+    assert.equal(name, 'Meu CPF');
     await page.close();
   });
 

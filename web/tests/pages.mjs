@@ -69,6 +69,18 @@ export function browserFixture(name) {
       fixture.refuse = undefined;
     }
   };
+  // A file that is on its way until `play` lets it come.
+  fixture.late = async (file, play) => {
+    let come;
+    const gate = new Promise((go) => (come = go));
+    fixture.refuse = async (pathname) => (pathname === file && (await gate), false);
+    try {
+      await play(come);
+    } finally {
+      come();
+      fixture.refuse = undefined;
+    }
+  };
   const script = '<script type="module" src="/gabarito.js"></script>';
   fixture.open = async (body, { ready = true, head = script } = {}) => {
     const address = `/test${fixture.pages.size}.html`;

@@ -47,6 +47,7 @@ std::u16string ValueNow(FieldModel& field) {
   copy->Appearance(field->Appearance());
   copy->MaxLength(field->MaxLength());
   copy->PreencherDatasInvalidasComDataDeHoje(field->PreencherDatasInvalidasComDataDeHoje());
+  copy->CNPJAlfanumerico(field->CNPJAlfanumerico());
   copy->ComboItens(field->ComboItens());
   copy->Mask(field->Mask());
   Copy(field.Parts(), copy.Parts());

@@ -8,6 +8,7 @@
 
 #include "gabarito/platform/erro.h"
 #include "hosts/kit/keep_content.h"
+#include "hosts/kit/look.h"
 #include "hosts/kit/numbered_properties.h"
 #include "hosts/web/answer.h"
 #include "hosts/web/exports.h"
@@ -40,6 +41,7 @@ enum class Event : std::int32_t {
   kClear,
   kMunicipios,
   kCheck,
+  kLook,
 };
 
 // The call as the page lays it out in the buffer: these words, then the units of both texts.
@@ -95,11 +97,17 @@ void Create(std::int32_t number, std::int32_t width, std::int32_t mask) {
   kit::SetProperty(*field->Model(), kit::Property::kMask, mask, {});
 }
 
-// The value of a program: written, then checked without a word.
-void Write(WebField& field, std::u16string_view text) {
+// The value of a program: written, then checked without a word. What a person has typed is written unchecked.
+void Write(WebField& field, std::u16string_view text, bool typed) {
   field.Quiet(true);
-  kit::SetProperty(*field.Model(), kit::Property::kText, 0, text);
-  field.CheckQuietly();
+  try {
+    kit::SetProperty(*field.Model(), kit::Property::kText, 0, text);
+  } catch (...) {
+    field.Quiet(false);
+    throw;
+  }
+  field.Quiet(false);
+  if (!typed) field.CheckQuietly();
 }
 
 // The page has given the field another width: what is in it stays, which a layout alone would empty.
@@ -142,9 +150,12 @@ void Carry(WebField& field, Event event, const Arguments& with, std::u16string& 
       result = kit::GetProperty(*field.Model(), static_cast<kit::Property>(with.a));
       return;
     case Event::kWrite:
-      return Write(field, with.data);
+      return Write(field, with.data, with.a != 0);
     case Event::kCheck:
       return field.CheckQuietly();
+    case Event::kLook:
+      if (!field.Model()->MostraVazio()) result = u"=" + kit::ValueNow(field.Model());
+      return;
     case Event::kClear:
       return field.Model()->ApagaCampos();
     default:

@@ -11,7 +11,7 @@ cat >"$work/campos.json" <<'END'
     {"name": "nascimento", "mask": "gbData", "label": "Nascimento", "placeholder": ["dd", "mm", "aaaa"]},
     {"name": "obs", "mask": "gbNenhuma", "label": "Observação"}]}]}
 END
-start "stty -a >before; x=\$('$program' form --fields campos.json); echo \"\$? \$x\" >out; stty -a >after"
+start "stty -g >before; x=\$('$program' form --fields campos.json); echo \"\$? \$x\" >out; stty -g >after"
 sees 'campo 1 de 4'
 sees 'Onze algarismos.'
 sees '│dd│ / │mm│ / │aaaa│'
@@ -119,7 +119,7 @@ cat >"$work/curto.json" <<'END'
 [{"name": "nome", "mask": "gbNenhuma"}, {"name": "faixa", "mask": "gbIntervaloNumerico"}]
 END
 run() {
-  start "'$program' form --fields curto.json $1 >out; stty -a >after"
+  start "'$program' form --fields curto.json $1 >out; stty -g >after"
   sees 'campo 1 de 2'
   keys -l "d'a"
   keys F10
@@ -146,7 +146,7 @@ sees 'left'
 tmux -L "$socket" resize-window -t form -x 80 -y 24
 
 # A signal ends the form with nothing printed and the terminal as it was.
-start "bash -c 'echo \$\$ >pid; exec \"$program\" form >out'; echo \$? >status; stty -a >after"
+start "bash -c 'echo \$\$ >pid; exec \"$program\" form >out'; echo \$? >status; stty -g >after"
 sees 'Um campo de cada espécie'
 kill -TERM "$(cat "$work/pid")"
 done_with ''

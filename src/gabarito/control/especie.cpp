@@ -115,10 +115,11 @@ constexpr std::int32_t kPrimeira = gbNenhuma;
 constexpr std::int32_t kUltima = gbEnderecoEmail;
 
 // Position of each value in kEspecies, -1 for a number between that is no kind.
+constexpr std::uint8_t kNenhumaPosicao = 255;
 constexpr auto kPosicoes = [] {
-  std::array<std::int8_t, kUltima - kPrimeira + 1> posicoes{};
-  posicoes.fill(-1);
-  std::int8_t posicao = 0;
+  std::array<std::uint8_t, kUltima - kPrimeira + 1> posicoes{};
+  posicoes.fill(kNenhumaPosicao);
+  std::uint8_t posicao = 0;
   for (const Especie& especie : kEspecies) posicoes[especie.valor - kPrimeira] = posicao++;
   return posicoes;
 }();
@@ -140,8 +141,8 @@ std::span<const EspecieDescrita> Especies() { return kDescritas; }
 
 const Especie& EspecieDe(std::int32_t mascara) {
   if (mascara < kPrimeira || mascara > kUltima) return kPadrao;
-  const std::int8_t posicao = kPosicoes[static_cast<std::size_t>(mascara - kPrimeira)];
-  return posicao < 0 ? kPadrao : kEspecies[static_cast<std::size_t>(posicao)];
+  const std::uint8_t posicao = kPosicoes[static_cast<std::size_t>(mascara - kPrimeira)];
+  return posicao == kNenhumaPosicao ? kPadrao : kEspecies[posicao];
 }
 
 }  // namespace gabarito

@@ -108,7 +108,7 @@ export abstract class FieldValue extends FieldSettings {
     const { value } = this;
     if (this.dirty) this.wanted = value;
     this.internals.setFormValue(value, this.state);
-    this.validate();
+    this.validate(value);
   }
 
   protected settle(): void {
@@ -116,9 +116,10 @@ export abstract class FieldValue extends FieldSettings {
     this.submitNow();
   }
 
-  protected validate(): void {
+  // `value` where it is known already: looking it up is dear.
+  protected validate(value?: string): void {
     const { refusal } = this.messages;
-    const fault = refusal || (this.required && this.value === '' ? 'Preencha este campo.' : '');
+    const fault = refusal || (this.required && (value ?? this.value) === '' ? 'Preencha este campo.' : '');
     if (fault === '' && this.fault === '') return;
     this.fault = fault;
     const anchor = this.view?.inputs.find((input) => input && !input.hidden) ?? this.plain;

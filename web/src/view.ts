@@ -12,6 +12,7 @@ const systemColor = 0x80000000;
 const blank = '\u2007';
 const prompt = /_/g;
 const blanks = /\u2007/g;
+const shownIn = (place: number, text: string): string => (place === maskedPlace ? text.replace(prompt, blank) : text);
 
 export interface Owner {
   readonly host: HTMLElement;
@@ -74,7 +75,7 @@ export class FieldView implements View {
     const child = this.children[place];
     const input = this.inputs[place];
     if (!child || !input || this.textOf(place) === this.knownText(place)) return;
-    input.value = place === maskedPlace ? this.knownText(place).replace(prompt, blank) : this.knownText(place);
+    input.value = shownIn(place, this.knownText(place));
     this.select(input, child.start, child.length);
   }
 
@@ -117,7 +118,7 @@ export class FieldView implements View {
       const input = this.inputs[place];
       if (!input || input.hidden || text === this.textOf(place)) return;
       this.known[place] = text;
-      input.value = place === maskedPlace ? text.replace(prompt, blank) : text;
+      input.value = shownIn(place, text);
       this.page.send(this.number, Event.sync, 0, 0, 0, { child: place, text, start: text.length, length: 0 });
     });
   }
@@ -176,13 +177,12 @@ export class FieldView implements View {
   }
 
   private setText(input: HTMLInputElement, child: ChildNews): void {
-    const masked = child.place === maskedPlace;
-    const text = masked ? (child.text ?? '').replace(prompt, blank) : (child.text ?? '');
+    const text = shownIn(child.place, child.text ?? '');
     if (input.value !== text) {
       input.value = text;
       this.rewrites++;
     }
-    if (masked) {
+    if (child.place === maskedPlace) {
       this.template ??= this.makeTemplate();
       // The signs of the empty places alone, each where it stands.
       this.template.textContent = (child.text ?? '').replace(/[^_]/g, ' ');

@@ -114,7 +114,7 @@ constexpr auto kEspecies = [] {
 constexpr std::int32_t kPrimeira = gbNenhuma;
 constexpr std::int32_t kUltima = gbEnderecoEmail;
 
-// Position of each value in kEspecies, -1 for a number between that is no kind.
+// Position of each value in kEspecies, kNenhumaPosicao for a number between that is no kind.
 constexpr std::uint8_t kNenhumaPosicao = 255;
 constexpr auto kPosicoes = [] {
   std::array<std::uint8_t, kUltima - kPrimeira + 1> posicoes{};

@@ -222,13 +222,13 @@ bool MaskedEdit::Type(char16_t character) {
   std::u16string without;
   if (length_ > 0) Empty(without = text_, start_, length_);
   const std::size_t at = Find(length_ > 0 ? without : text_, start_, character);
-  const bool separator = at == positions_.size() || !IsPlace(at);
+  const bool place = at < positions_.size() && IsPlace(at);
   // Before the next "/" of ##/##/## is gone to.
-  if (separator && at != start_ && TakeAgain(character)) return true;
+  if (!place && at != start_ && TakeAgain(character)) return true;
   if (at == positions_.size()) return false;
   Empty(text_, start_, length_);
   Select(at + 1, 0);
-  if (separator) return true;
+  if (!place) return true;
   text_[at] = Entered(positions_[at], character);
   RunOverLiterals();
   return true;

@@ -8,22 +8,6 @@
 namespace gabarito::kit {
 namespace {
 
-// The shortest edit that turns one text into another.
-TextEdit Difference(std::u16string_view before, std::u16string_view after, std::int32_t caret) {
-  std::size_t head = 0;
-  while (head < before.size() && head < after.size() && before[head] == after[head]) ++head;
-  std::size_t tail = 0;
-  while (tail < before.size() - head && tail < after.size() - head &&
-         before[before.size() - 1 - tail] == after[after.size() - 1 - tail]) {
-    ++tail;
-  }
-  return {.changes = true,
-          .start = static_cast<std::int32_t>(head),
-          .removed = static_cast<std::int32_t>(before.size() - head - tail),
-          .inserted = std::u16string(after.substr(head, after.size() - head - tail)),
-          .caret = caret};
-}
-
 bool IsFull(InputModel& child) {
   const InputChild& box = child.AsChild();
   const auto size = static_cast<std::int64_t>(box.Text().size());
@@ -120,8 +104,24 @@ TextEdit TextArrives(InputModel& child, std::u16string_view text) {
     if (focus.Focused() != &child) break;
   }
   const InputChild& box = child.AsChild();
-  if (box.Text() == before) return {};
-  return Difference(before, box.Text(), box.SelStart());
+  TextEdit edit = Difference(before, box.Text());
+  edit.caret = box.SelStart();
+  return edit;
+}
+
+TextEdit Difference(std::u16string_view before, std::u16string_view after) {
+  std::size_t head = 0;
+  while (head < before.size() && head < after.size() && before[head] == after[head]) ++head;
+  std::size_t tail = 0;
+  while (tail < before.size() - head && tail < after.size() - head &&
+         before[before.size() - 1 - tail] == after[after.size() - 1 - tail]) {
+    ++tail;
+  }
+  return {.changes = before != after,
+          .start = static_cast<std::int32_t>(head),
+          .removed = static_cast<std::int32_t>(before.size() - head - tail),
+          .inserted = std::u16string(after.substr(head, after.size() - head - tail)),
+          .caret = static_cast<std::int32_t>(after.size() - tail)};
 }
 
 }  // namespace gabarito::kit

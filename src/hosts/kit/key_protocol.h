@@ -68,6 +68,10 @@ struct TextEdit {
 // result already.
 TextEdit TextArrives(InputModel& child, std::u16string_view text);
 
+// The shortest edit that turns one text into another, the caret behind what it inserts: for a widget whose
+// text somebody has set past all keys.
+TextEdit Difference(std::u16string_view before, std::u16string_view after);
+
 }  // namespace gabarito::kit
 
 #endif  // HOSTS_KIT_KEY_PROTOCOL_H

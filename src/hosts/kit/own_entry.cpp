@@ -189,7 +189,7 @@ void ActOnCharacter(InputModel& child, char16_t character, std::u16string& clipb
     box.Edited();
   } else {
     auto& box = static_cast<TextBoxModel&>(child);
-    TypeInto(box.Entry(), character, box.MaxLength(), clipboard);
+    TypeInto(box.Entry(), character, box.Limit(), clipboard);
     box.NoteEdit();
   }
 }

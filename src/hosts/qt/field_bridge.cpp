@@ -142,10 +142,8 @@ void FieldBridge::HandOver() {
   for (int i = 0; i < kInputs; ++i) {
     LineBox* const line = LineOf(i);
     if (line == nullptr) continue;
-    kit::InputModel& child = Child(i);
     const QString text = line->text();
-    if (BoxOf(i) != focus && ViewOf(text) == child.AsChild().Text()) continue;
-    child.HandOver(ViewOf(text), line->SelStart(), static_cast<std::int32_t>(line->selectedText().size()));
+    if (BoxOf(i) == focus || ViewOf(text) != Child(i).AsChild().Text()) TakeOver(*line);
   }
 }
 

@@ -202,16 +202,11 @@ void FieldBridge::TakeSelectionAway(LineBox& box) {
 void FieldBridge::TextSet(LineBox& box) {
   if (passing_ || form_->depth > 0 || !model_->Exists()) return;
   const QString now = box.text(), former = ToQString(Child(box.Index()).AsChild().Text());
-  if (now == former) return;
+  const kit::TextEdit edit = kit::Difference(ViewOf(former), ViewOf(now));
+  if (!edit.changes) return;
   const bool picked = box.Index() == kCombo && now == list_->itemText(list_->currentIndex());
   if (picked) return;
-  qsizetype head = 0, tail = 0;
-  const qsizetype shorter = std::min(now.size(), former.size());
-  while (head < shorter && now[head] == former[head]) ++head;
-  while (tail < shorter - head && now[now.size() - 1 - tail] == former[former.size() - 1 - tail]) ++tail;
-
-  const QString added = now.mid(head, now.size() - head - tail);
-  if (added.isEmpty() && Child(box.Index()).Kind() != kit::InputKind::kMasked) {
+  if (edit.inserted.empty() && Child(box.Index()).Kind() != kit::InputKind::kMasked) {
     InTurn([] {});  // nothing comes, something is gone
     return;
   }
@@ -224,8 +219,8 @@ void FieldBridge::TextSet(LineBox& box) {
   box.setFocus(Qt::OtherFocusReason);
   FocusWatch::Instance().Tell();
   if (form->Bridge() != nullptr) {
-    box.Select(static_cast<int>(head), static_cast<int>(former.size() - head - tail));
-    TextComes(box, added);
+    box.Select(edit.start, edit.removed);
+    TextComes(box, ToQString(edit.inserted));
   }
   --form->running;
 }

@@ -99,14 +99,10 @@ void Create(std::int32_t number, std::int32_t width, std::int32_t mask) {
 
 // The value of a program: written, then checked without a word. What a person has typed is written unchecked.
 void Write(WebField& field, std::u16string_view text, bool typed) {
-  field.Quiet(true);
-  try {
+  {
+    const WebField::Hush hush(field);
     kit::SetProperty(*field.Model(), kit::Property::kText, 0, text);
-  } catch (...) {
-    field.Quiet(false);
-    throw;
   }
-  field.Quiet(false);
   if (!typed) field.CheckQuietly();
 }
 

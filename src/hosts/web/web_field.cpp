@@ -8,6 +8,7 @@
 #include "gabarito/state/campo.h"
 #include "hosts/kit/comfort.h"
 #include "hosts/kit/own_entry.h"
+#include "hosts/kit/visit_input.h"
 #include "hosts/web/imports.h"
 
 namespace gabarito::web {
@@ -204,7 +205,7 @@ void WebField::Size(float width, float height) {
 
 void WebField::CheckQuietly() {
   const auto held = model_.SharedParts();
-  Quiet(true);
+  const Hush hush(*this);
   page_->focus.Freeze(true);
   try {
     model_->Text();
@@ -212,7 +213,6 @@ void WebField::CheckQuietly() {
     // What cannot be read is not the value.
   }
   page_->focus.Freeze(false);
-  Quiet(false);
 }
 
 // --- The answer
@@ -268,6 +268,13 @@ std::int32_t TellEntry(Answer& answer, Model& model, std::int32_t place, Telling
   return changes;
 }
 
+void TellList(Answer& answer, const kit::ComboModel& combo) {
+  answer.Number(combo.ListCount());
+  answer.Number(combo.Selected());
+  answer.Number(combo.DroppedDown() ? 1 : 0);
+  answer.Text(combo.ToolTip());
+}
+
 }  // namespace
 
 void WebField::TellNews(Answer& answer) {
@@ -277,22 +284,9 @@ void WebField::TellNews(Answer& answer) {
                                                         : Telling::kWhatShows;
   std::int32_t place = 0;
   for (kit::InputModel* const child : parts->InTabOrder()) {
-    switch (child->Kind()) {
-      case kit::InputKind::kTextBox:
-        TellEntry(answer, static_cast<kit::TextBoxModel&>(*child), place, telling);
-        break;
-      case kit::InputKind::kMasked:
-        TellEntry(answer, static_cast<kit::MaskedModel&>(*child), place, telling);
-        break;
-      case kit::InputKind::kCombo: {
-        auto& combo = static_cast<kit::ComboModel&>(*child);
-        if (TellEntry(answer, combo, place, telling) == 0) break;
-        answer.Number(combo.ListCount());
-        answer.Number(combo.Selected());
-        answer.Number(combo.DroppedDown() ? 1 : 0);
-        answer.Text(combo.ToolTip());
-      }
-    }
+    const auto told =
+        kit::VisitInput(*child, [&](auto& model) { return TellEntry(answer, model, place, telling); });
+    if (told != 0 && child == &parts->Combo1) TellList(answer, parts->Combo1);
     ++place;
   }
   for (kit::LabelModel& label : parts->lbl_controle) {

@@ -66,8 +66,17 @@ class WebField {
   void DropDown(bool open);
   void Size(float width, float height);
 
-  // While on, nobody hears a message of the field.
-  void Quiet(bool on) { dialogs_.quiet = on; }
+  // While it lives, nobody hears a message of the field.
+  class Hush {
+   public:
+    explicit Hush(WebField& field) : dialogs_(field.dialogs_) { dialogs_.quiet = true; }
+    ~Hush() { dialogs_.quiet = false; }
+    Hush(const Hush&) = delete;
+    Hush& operator=(const Hush&) = delete;
+
+   private:
+    PageDialogs& dialogs_;
+  };
   // Reads Text without a word to anybody: no message, no move of the focus. For a value that a program has
   // written.
   void CheckQuietly();

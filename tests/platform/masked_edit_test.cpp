@@ -50,6 +50,7 @@ TEST(MaskedEdit, ShowsWhatIsEnteredAndWhereTheCaretGoes) {
       {"a separator typed once more", u"##/##", u"", u"12/", u"12/|__"},
       {"but not a second time", u"##/##", u"", u"12//", u"12/|__!"},
       {"a separator twice goes to the next", u"##/##/##", u"", u"1//2", u"1_/__/2|_"},
+      {"a digit of the frame is none", u"##1", u"", u"121", u"121|!"},
       {"a whole date with its separators", u"##/##/##", u"", u"12/34/56", u"12/34/56|"},
       {"several that the caret ran over", u"(##)-##", u"", u"(11)-2", u"(11)-2|_"},
       {"a separator over an empty place", u"##/##", u"", u"1/2", u"1_/2|_"},

@@ -137,8 +137,10 @@ void MaskedEdit::RunOverLiterals() {
   ran_from_ = from;
 }
 
-// A separator that the caret has run over by itself is taken when the person types it: the "/" of 12/34.
+// A separator that the caret has run over by itself is taken when the person types it: the "/" of 12/34. A
+// letter or digit is meant for a place.
 bool MaskedEdit::TakeAgain(char16_t separator) {
+  if (IsDigit(separator) || IsLetter(separator)) return false;
   for (std::size_t at = ran_from_; at < start_; ++at) {
     if (!IsLiteral(at, separator)) continue;
     ran_from_ = at + 1;

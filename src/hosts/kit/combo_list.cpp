@@ -66,11 +66,18 @@ struct ComboList::Storage {
   }
 };
 
-// Takes the entry by going along with a storage that has it at this very place.
-bool ComboList::Follows(std::u16string_view text) {
-  if (count_ == 0) storage_ = Storage::Latest().lock();
+bool ComboList::IsNext(std::u16string_view text) const {
   return storage_ != nullptr && count_ < storage_->ends.size() &&
          storage_->Part(storage_->buffer, count_) == text;
+}
+
+// Takes the entry by going along with a storage that has it at this very place: the list's own, which has
+// held more, or the latest.
+bool ComboList::Follows(std::u16string_view text) {
+  if (IsNext(text)) return true;
+  if (count_ > 0) return false;
+  storage_ = Storage::Latest().lock();
+  return IsNext(text);
 }
 
 // A list that goes its own way from here takes along what it shares.
@@ -88,11 +95,6 @@ void ComboList::Add(std::u16string_view text) {
     if (storage_->ends.size() == kLong) Storage::Latest() = storage_;
   }
   ++count_;
-}
-
-void ComboList::Clear() {
-  storage_.reset();
-  count_ = 0;
 }
 
 std::u16string_view ComboList::At(std::size_t position) const {

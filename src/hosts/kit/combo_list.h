@@ -16,7 +16,8 @@ class ComboList {
 
   // Raises 6 when the list is full.
   void Add(std::u16string_view text);
-  void Clear();
+  // Keeps the storage: each layout empties the list, and fills it mostly with the same entries again.
+  void Clear() { count_ = 0; }
 
   std::size_t Count() const { return count_; }
   // Good until the list changes.
@@ -33,6 +34,7 @@ class ComboList {
  private:
   struct Storage;
 
+  bool IsNext(std::u16string_view text) const;
   bool Follows(std::u16string_view text);
   void MakeOwn();
 

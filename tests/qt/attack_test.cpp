@@ -146,6 +146,47 @@ TEST_F(AttackOn, TheFieldIsDeletedInTheMiddleOfItsOwnWork) {
   }
 }
 
+// What Qt tells while the field brings its boxes up to date, and a program that answers it with a value.
+TEST_F(AttackOn, AValueThatIsWrittenInTheMiddleOfItsOwnWorkStays) {
+  const struct {
+    const char* what;
+    std::function<void(AttackOn&, std::function<void()> write)> act;
+  } rows[] = {
+      {"the focus taken back after a refusal",
+       [](AttackOn& t, auto write) {
+         t.after->setFocus();
+         QObject::connect(qApp, &QApplication::focusChanged, t.field, write, Qt::SingleShotConnection);
+         t.Settle();
+       }},
+      {"a box that is brought up to date before the others",
+       [](AttackOn& t, auto write) {
+         QObject::connect(t.Box(), &QLineEdit::textChanged, t.field, write, Qt::SingleShotConnection);
+         t.field->setText("07/08/2021");
+       }},
+      {"a look at the value there",
+       [](AttackOn& t, auto write) {
+         QObject::connect(
+             t.Box(), &QLineEdit::textChanged, t.field, [&t] { t.field->text(); }, Qt::SingleShotConnection);
+         t.field->setText("07/08/2021");
+         EXPECT_EQ(t.field->text(), "07/08/2021");
+         write();
+       }},
+  };
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.what);
+    Show(GabaritoField::gbData);
+    field->setPreencherDatasInvalidasComDataDeHoje(false);
+    Enter(field);
+    Type("31022024");
+    row.act(*this, [this] { field->setText("05/06/2023"); });
+    Settle();
+    EXPECT_EQ(field->text(), "05/06/2023");
+    ASSERT_EQ(Boxes().size(), 3);
+    EXPECT_EQ(Box(0)->text() + Box(1)->text() + Box(2)->text(), "05062023");
+    Renew();
+  }
+}
+
 TEST_F(AttackOn, WhileAMessageIsOpen) {
   const struct {
     const char* what;

@@ -134,10 +134,11 @@ QWidget* FieldBridge::BoxOf(int index) const {
 }
 
 // The box with the focus, and any other whose text is not what its model thinks. The others have only lost
-// their selection to the style, which is none of the field's business.
+// their selection to the style, which is none of the field's business. During the pass the widgets are behind
+// the models.
 void FieldBridge::HandOver() {
   kit::FieldParts* const parts = Parts();
-  if (parts == nullptr || parts != applied_) return;
+  if (parts == nullptr || parts != applied_ || passing_) return;
   QWidget* const focus = widget_.window()->focusWidget();
   for (int i = 0; i < kInputs; ++i) {
     LineBox* const line = LineOf(i);

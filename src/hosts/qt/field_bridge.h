@@ -213,6 +213,7 @@ class FieldBridge final : public BoxOwner, public ListBoxOwner {
   QPointer<QLabel> labels_[kLabels];
   bool made_ = false;     // the field has been shown once
   bool passing_ = false;  // the pass is at work: what the widgets tell is its echo
+  bool again_ = false;    // the models have changed since it began
   bool run_posted_ = false;
   bool refused_ = false;
   StdFont font_;

@@ -213,9 +213,10 @@ void FieldBridge::TextSet(LineBox& box) {
 
   const auto form = form_;
   ++form->running;  // the box is in the middle of its own change: it has to outlive what comes of this
-  passing_ = true;
-  box.setText(former);
-  passing_ = false;
+  {
+    const QSignalBlocker echo(&box);
+    box.setText(former);
+  }
   box.setFocus(Qt::OtherFocusReason);
   FocusWatch::Instance().Tell();
   if (form->Bridge() != nullptr) {

@@ -44,11 +44,16 @@ void Paint(QWidget& box, gabarito::Color color) {
 }  // namespace
 
 bool FieldBridge::Apply() {
-  if (Parts() == nullptr || passing_) return true;
+  if (Parts() == nullptr) return true;
+  if (passing_) return again_ = true;
   const auto form = form_;
   ++form->running;  // the boxes outlive the pass
   passing_ = true;
-  const bool here = ApplySurface() && (!made_ || ApplyChildren());
+  bool here = true;
+  do {
+    again_ = false;
+    here = ApplySurface() && (!made_ || ApplyChildren());
+  } while (here && again_);
   if (here) passing_ = false;
   --form->running;
   return here;

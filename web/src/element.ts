@@ -46,7 +46,7 @@ export class GabaritoField extends FieldValue implements Owner {
   ];
   // The module, once for all elements; set by index.ts.
   private static page: Page | undefined;
-  private static readonly waiting: GabaritoField[] = [];
+  private static readonly waiting = new Set<GabaritoField>();
   private static unnamed: GabaritoField[] = [];
   static source: () => Promise<Page> = () => Promise.reject(new Error('no module'));
 
@@ -56,12 +56,13 @@ export class GabaritoField extends FieldValue implements Owner {
   protected readonly messages: Messages;
   private typing: Typing | undefined; // from the first time that something happens in the field
   private valueBefore = ''; // the same when the focus came in
+  private offline = false; // without the municipalities, which could not be had
 
   get host(): HTMLElement {
     return this;
   }
   get kind(): Kind {
-    return kindOf(this.maskValue);
+    return kindOf(this.shownMask);
   }
 
   constructor() {
@@ -83,10 +84,10 @@ export class GabaritoField extends FieldValue implements Owner {
   connectedCallback(): void {
     // A page may have set properties before the element's script was there: they would stand in front of these.
     for (const name of Object.keys(this)) if (name in GabaritoField.prototype) this.upgrade(name);
-    if (this.view || this.plain) return;
+    if (this.view) return;
     if (GabaritoField.page) return this.startSoon(GabaritoField.page);
+    if (this.plain) return;
     this.makePlain();
-    GabaritoField.nameSoon([this]);
     GabaritoField.source().then(
       (page) => this.startSoon((GabaritoField.page = page)),
       () => {
@@ -100,13 +101,31 @@ export class GabaritoField extends FieldValue implements Owner {
   // of them changes the page.
   private startSoon(page: Page): void {
     const { waiting } = GabaritoField;
-    if (waiting.push(this) > 1) return;
+    if (waiting.add(this).size > 1) return;
     queueMicrotask(() => {
-      const fields = waiting.splice(0).filter((field) => field.isConnected && !field.view);
+      const fields = [...waiting].filter((field) => field.isConnected && !field.view && !field.awaits(page));
+      waiting.clear();
       const widths = fields.map(({ plain, frame }) => (plain && measure(frame)) || usualWidth());
       fields.forEach((field, i) => field.start(page, widths[i]!));
       GabaritoField.nameSoon(fields);
     });
+  }
+
+  // Whether the municipalities have to come first: an empty list would refuse all that a person types.
+  private awaits(page: Page): boolean {
+    if (this.shownMask !== populated || page.hasMunicipios) return false;
+    if (!this.plain) this.makePlain();
+    this.messages.tell('Carregando os municípios…');
+    page.wantMunicipios().then((there) => {
+      this.offline = !there;
+      this.messages.tell(
+        there || this.maskValue !== populated
+          ? ''
+          : 'Sem conexão: a lista de municípios não pôde ser carregada. Digite a cidade e escolha o estado.',
+      );
+      this.startSoon(page);
+    });
+    return true;
   }
 
   // When the page has time.
@@ -150,36 +169,41 @@ export class GabaritoField extends FieldValue implements Owner {
       this.dirty = true;
       this.submitNow();
     });
+    input.addEventListener('change', () => this.plain && this.tellChange());
     this.plain = input;
     this.frame.append(input);
     this.submitNow();
+    GabaritoField.nameSoon([this]);
   }
 
   private start(page: Page, width: number): void {
-    const typed = this.plain && this.dirty ? this.plain.value : undefined;
-    const focused = this.plain !== undefined && this.root.activeElement === this.plain;
-    this.plain?.remove();
-    this.plain = undefined;
+    const { plain } = this;
+    const typed = plain && this.dirty ? plain.value : undefined;
+    const focused = plain !== undefined && this.root.activeElement === plain;
+    this.plain = undefined; // Chromium tells a change of what is removed
+    plain?.remove();
     this.root.addEventListener('input', this.firstInput);
     const view = page.add((number) => new FieldView(page, number, this)) as FieldView;
     this.view = view;
     view.width = width;
     const text = typed ?? this.pending ?? this.getAttribute('value') ?? '';
     this.pending = undefined;
-    this.create(view, text === '' || text.startsWith(asTyped));
+    this.create(view, focused || text === (typed ?? '') || text.startsWith(asTyped));
+    if (focused) view.first?.focus(); // the field itself would choose the box
     if (text === '') this.settle();
-    else if (typed) this.writeTyped(typed);
+    else if (typed) this.writeTyped(typed, focused);
     else this.restore(text);
     if (this.matches(':disabled')) this.set('enabled', false);
     observeSize(this);
-    if (focused || (this.autofocus && this.ownerDocument.activeElement === this.ownerDocument.body)) this.focus();
+    if (typed && !focused) this.tellChange();
+    if (!focused && this.autofocus && this.ownerDocument.activeElement === this.ownerDocument.body) this.focus();
   }
 
   // Mostly a field is a kind and no more, and one call makes it.
   private create(view: FieldView, told: boolean): void {
     const more = order.filter((name) => this.settings.has(name) && (name !== 'maskText' || this.maskValue === custom));
-    const alone = (more.length === 0 || (more.length === 1 && more[0] === 'mask')) && this.maskValue !== populated;
-    const mask = alone ? this.maskValue : kinds.gbNenhuma!.number;
+    const alone = more.length === 0 || (more.length === 1 && more[0] === 'mask');
+    const mask = alone ? this.shownMask : kinds.gbNenhuma!.number;
     view.page.send(view.number, Event.create, view.width, mask, 0, alone && told ? undefined : untold);
     if (alone) return;
     for (const name of more) this.hand(name, this.settings.get(name)!, untold);
@@ -192,6 +216,7 @@ export class GabaritoField extends FieldValue implements Owner {
     this.typing = undefined;
     const view = this.view;
     this.view = undefined;
+    this.offline = false;
     view?.close();
     view?.reset();
   }
@@ -201,6 +226,11 @@ export class GabaritoField extends FieldValue implements Owner {
     if (!view || width === view.width) return;
     view.width = width;
     view.page.send(view.number, Event.size, width);
+  }
+
+  // The kind as it can be shown.
+  private get shownMask(): number {
+    return this.offline && this.maskValue === populated ? plainCity : this.maskValue;
   }
 
   // --- Properties ---------------------------------------------------------------------------------------------------
@@ -219,6 +249,11 @@ export class GabaritoField extends FieldValue implements Owner {
     this.settings.set(name, value);
     const { view } = this;
     if (!view) return;
+    if (value === populated && name === 'mask' && !view.page.hasMunicipios) {
+      this.stop();
+      this.value = '';
+      return this.startSoon(view.page);
+    }
     const kept = name === 'mask' || name === 'maskText' || name === 'comboItens' ? '' : this.state;
     this.hand(name, value);
     if (name === 'mask' || name === 'maskText') {
@@ -234,28 +269,11 @@ export class GabaritoField extends FieldValue implements Owner {
 
   private hand(name: PropertyName, value: Value, held?: Held): void {
     const view = this.view!;
-    if (name === 'mask' && value === populated) return this.showMunicipios(view);
+    if (name === 'mask') value = this.shownMask;
     if (name === 'appearance') this.frame.classList.toggle('deep', value === 1);
     if (name === 'enabled') this.frame.classList.toggle('off', value === false);
     const text = Array.isArray(value) ? value.join('\0') : typeof value === 'string' ? value : '';
     view.page.send(view.number, Event.set, Property[name], Number(value) || 0, 0, held, text);
-  }
-
-  private showMunicipios(view: FieldView): void {
-    const show = (mask: number) => view.page.send(view.number, Event.set, Property.mask, mask);
-    show(populated);
-    if (view.page.hasMunicipios) return;
-    this.messages.tell('Carregando os municípios…');
-    view.page.wantMunicipios().then((there) => {
-      if (this.view !== view || this.maskValue !== populated) return;
-      const focused = this.matches(':focus-within');
-      show(there ? populated : plainCity);
-      this.messages.tell(
-        there ? '' : 'Sem conexão: a lista de municípios não pôde ser carregada. Digite a cidade e escolha o estado.',
-      );
-      this.write(this.wanted);
-      if (focused) this.focus();
-    });
   }
 
   get comboListCount(): number {
@@ -287,6 +305,10 @@ export class GabaritoField extends FieldValue implements Owner {
   // A program has written a value while the focus is elsewhere.
   written(text: string): void {
     this.write(text);
+    this.tellChange();
+  }
+
+  private tellChange(): void {
     this.dispatchEvent(new globalThis.Event('change', { bubbles: true }));
   }
 
@@ -356,7 +378,7 @@ export class GabaritoField extends FieldValue implements Owner {
     }
     if (this.committed !== this.valueBefore) {
       this.valueBefore = this.committed;
-      this.dispatchEvent(new globalThis.Event('change', { bubbles: true }));
+      this.tellChange();
     }
   }
 

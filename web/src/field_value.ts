@@ -80,17 +80,12 @@ export abstract class FieldValue extends FieldSettings {
     this.settle();
   }
 
-  // What a person has typed goes in unchecked, and as it stands where the field can take nothing of it.
-  protected writeTyped(text: string): void {
+  // What a person has typed goes in unchecked.
+  protected writeTyped(text: string, focused = false): void {
     const view = this.view!;
     this.dirty = true;
     if (text.startsWith(asTyped)) view.retype(text.slice(1));
-    else {
-      view.page.send(view.number, Event.write, 1, 0, 0, undefined, text);
-      if (view.page.look(view.number) === '') {
-        view.retype(asTyped.repeat(view.inputs.findIndex((input) => input && !input.hidden)) + text);
-      }
-    }
+    else view.enter(text, focused);
     this.submitNow();
   }
 
@@ -122,7 +117,7 @@ export abstract class FieldValue extends FieldSettings {
     const fault = refusal || (this.required && (value ?? this.value) === '' ? 'Preencha este campo.' : '');
     if (fault === '' && this.fault === '') return;
     this.fault = fault;
-    const anchor = this.view?.inputs.find((input) => input && !input.hidden) ?? this.plain;
+    const anchor = this.view?.first ?? this.plain;
     this.internals.setValidity(refusal ? { customError: true } : fault ? { valueMissing: true } : {}, fault, anchor);
     this.toggleAttribute('data-refused', refusal !== '');
     for (const input of this.view?.inputs ?? []) {

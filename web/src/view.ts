@@ -65,6 +65,10 @@ export class FieldView implements View {
     return { child: place, text, start, length: (input.selectionEnd ?? start) - start };
   }
 
+  get first(): HTMLInputElement | undefined {
+    return this.inputs.find((input) => input && !input.hidden);
+  }
+
   // The text of an entry as the model last knew it.
   knownText(place: number): string {
     return this.known[place] ?? '';
@@ -121,6 +125,26 @@ export class FieldView implements View {
       input.value = shownIn(place, text);
       this.page.send(this.number, Event.sync, 0, 0, 0, { child: place, text, start: text.length, length: 0 });
     });
+  }
+
+  // What a person typed before the field was there: as if it had been, and as it stands where the field does not take it.
+  enter(text: string, focused: boolean): void {
+    const { page, number } = this;
+    const place = this.placeOf(this.first ?? null);
+    const listed = place === comboPlace;
+    const takes = (event: Event, held?: Held) => {
+      page.send(number, event, 1, 0, 0, held, text);
+      return page.look(number) !== '';
+    };
+    if ((listed || !focused) && takes(Event.write)) return;
+    if (listed) {
+      // The list refuses accents; without them the letters under them are typed.
+      const typed = text.normalize('NFD').replace(/[^ -~]/g, '');
+      for (const c of typed) page.send(number, Event.keyDown, 0, 0, c.charCodeAt(0), this.held(place));
+      if (!focused) page.send(number, Event.dropDown);
+      if (this.textOf(place).toLowerCase().startsWith(typed.toLowerCase())) return;
+    } else if (focused && (takes(Event.insert, this.held(place)) || takes(Event.write))) return;
+    this.retype('\0'.repeat(place) + text);
   }
 
   // A new field in the place of the old one.

@@ -365,26 +365,49 @@ for (const name of browsers) {
       const estado = field('uf', 'gbEstado');
       const page = await fixture.open(form(cpf + data + estado), { ready: false });
       await page.waitForFunction(() => f.uf?.shadowRoot?.querySelector('.plain'));
-      for (const [id, text] of [['cpf', '123'], ['data', '5/3'], ['uf', 'xx']]) {
+      for (const [id, text] of [['cpf', '123'], ['uf', 'xx'], ['data', '5/3']]) {
         await page.evaluate((name) => f[name].focus(), id);
         await page.write(text);
       }
       come();
       await page.evaluate(() => f.ready());
-      await page.tells(() => [f.cpf.value, f.texts('data').join(''), f.texts('uf')], ['123', '5/3', ['xx']]);
+      await page.write('/24');
+      await page.tells(() => [f.cpf.value, f.texts('data'), f.texts('uf')], ['123', ['5', '3', '24'], ['xx']]);
       await page.click('#send');
       await page.tells(() => [f.submits(), f.said('cpf')], [0, 'O CPF informado é inválido.']);
       await page.close();
     });
 
-    without('/municipios.txt', 'without the municipalities a city is typed, its state chosen', async () => {
-      const page = await fixture.open(field('cidade', 'gbCidadeEstadoPopulado'));
+    const populado = (id) => field(id, 'gbCidadeEstadoPopulado');
+    late('/municipios.txt', 'what is typed before the municipalities are there goes through the list', async (come) => {
+      const page = await fixture.open(form(populado('antes') + populado('depois')), { ready: false });
+      await page.waitForFunction(() => f.said('depois') !== '');
+      for (const [id, text] of [['antes', 'sao jose dos c'], ['depois', 'xamb']]) {
+        await page.evaluate((name) => f[name].focus(), id);
+        await page.write(text);
+      }
+      come();
+      await page.waitForFunction(() => f.depois.comboListCount === 5652);
+      await page.write('io');
+      await page.focus('#last');
+      await page.tells(() => sent(form), { antes: 'SAO JOSE DOS CAMPOS/SP', depois: 'XAMBIOA/GO' });
+      await page.tells(() => events.filter((it) => it.startsWith('change')),
+        ['change antes', 'change antes', 'change depois']);
+      await page.close();
+    });
+
+    late('/municipios.txt', 'without the municipalities a city is typed, its state chosen', async (come) => {
+      const page = await fixture.open(populado('cidade'), { ready: false });
+      await page.waitForFunction(() => f.said('cidade') !== '');
+      await page.evaluate(() => f.cidade.focus());
+      await page.write('Campi');
+      come(true);
       await page.waitForFunction(() => f.said('cidade').startsWith('Sem conexão'));
-      await page.evaluate(() => f.boxes('cidade')[0].focus());
-      await page.write('Campinas');
+      await page.write('nas');
       await page.press('Tab');
       await page.write('sp');
-      await page.tells(() => f.cidade.value, 'Campinas/SP');
+      await page.tells(() => [f.cidade.value, f.boxes('cidade').map((it) => it.ariaLabel)],
+        ['Campinas/SP', ['cidade', 'estado']]);
       await page.close();
     });
 

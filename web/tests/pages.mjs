@@ -61,19 +61,13 @@ export function browserFixture(name) {
     fixture.server.close();
   });
   // A file that cannot be had while `play` runs.
-  fixture.without = async (file, play) => {
-    fixture.refuse = (pathname, response) => pathname === file && (response.writeHead(500).end(), true);
-    try {
-      await play();
-    } finally {
-      fixture.refuse = undefined;
-    }
-  };
-  // A file that is on its way until `play` lets it come.
+  fixture.without = (file, play) => fixture.late(file, (come) => (come(true), play()));
+  // A file that is on its way until `play` lets it come, or lets it be lost.
   fixture.late = async (file, play) => {
     let come;
     const gate = new Promise((go) => (come = go));
-    fixture.refuse = async (pathname) => (pathname === file && (await gate), false);
+    fixture.refuse = async (pathname, response) =>
+      pathname === file && (await gate) === true && (response.writeHead(500).end(), true);
     try {
       await play(come);
     } finally {

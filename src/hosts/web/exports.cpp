@@ -166,7 +166,7 @@ void Run(Bridge& bridge, std::int32_t number, Event event, const Arguments& with
     return TheBridge().page->Run();
   }
   if (event == Event::kMunicipios) {
-    OwnMunicipios(with.data);
+    if (!OwnMunicipios(with.data)) throw Erro(kInvalidProcedureCall);
     return;
   }
   WebField* const field = PlaceOf(number).get();

@@ -36,6 +36,7 @@ export class Page implements Calls {
   private readonly views = new Map<number, View>();
   private readonly hosts = new WeakSet<EventTarget>();
   private bridge!: Bridge;
+  private answer: Answer | undefined; // not applied yet
   private depth = 0; // of calls inside calls: the browser's focus is set when the outermost is over
   private focused = 0; // the field with the logical focus
   private last = 0;
@@ -85,8 +86,10 @@ export class Page implements Calls {
     this.send(view.number, Event.end);
   }
 
-  // Carries an event in and applies the answer; `before` sees it first. What the field raises is thrown.
+  // Carries an event in and applies the answer; `before` sees it first, and what the page does in there, told of the
+  // edit, comes after the answer. What the field raises is thrown.
   send(field: number, event: number, a = 0, b = 0, c = 0, held?: Held, data = '', before?: (answer: Answer) => void): Answer {
+    this.applyAnswer();
     this.handOverStale(field, held);
     this.depth++;
     let answer: Answer;
@@ -95,8 +98,9 @@ export class Page implements Calls {
     } finally {
       this.depth--;
     }
+    this.answer = answer;
     before?.(answer);
-    this.apply(answer);
+    this.applyAnswer();
     if (answer.error !== 0) throw new FieldError(answer.error, answer.result);
     return answer;
   }
@@ -107,6 +111,12 @@ export class Page implements Calls {
     this.handOverStale(field, undefined);
     const { error, result } = this.bridge.call(field, Event.look, 0, 0, 0, untold);
     return error === 0 ? result : '=';
+  }
+
+  private applyAnswer(): void {
+    const { answer } = this;
+    this.answer = undefined;
+    if (answer) this.apply(answer);
   }
 
   apply(answer: Answer): void {

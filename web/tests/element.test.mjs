@@ -283,6 +283,17 @@ for (const name of browsers) {
       await page.tells(() => [f.nome.value, f.nome.checkValidity()], ['+++', true]);
     });
 
+    scene('what the page writes when it hears of an edit stays', cpf, async (page) => {
+      await page.evaluate(() => {
+        f.cpf.focus();
+        f.cpf.addEventListener('input', () => (f.cpf.value = '11144477735'), { once: true });
+      });
+      await page.keys.paste('52');
+      await page.tells(() => [f.cpf.value, ...f.texts('cpf')], ['111.444.777-35', '111.444.777-35']);
+      await page.press('Tab');
+      await page.tells(() => [f.cpf.value, f.said('cpf')], ['111.444.777-35', '']);
+    });
+
     scene('the pointer and a drop change nothing that is read only, disabled or elsewhere',
       `${field('fixo', 'gbEstado', 'readonly value="SP"')}${field('sem', 'gbEstado', 'disabled value="SP"')}
       <div contenteditable id="note">abc</div><iframe id="frame"></iframe>${data}`, async (page) => {

@@ -149,6 +149,8 @@ export class GabaritoField extends FieldValue implements Owner {
   }
 
   adoptedCallback(): void {
+    // Firefox 140 makes a plain element of the other document of it.
+    if (!(this instanceof GabaritoField)) Object.setPrototypeOf(this, GabaritoField.prototype);
     styleRoot(this.root);
     this.view?.page.watch(this.ownerDocument);
   }

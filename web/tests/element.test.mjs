@@ -20,7 +20,6 @@ for (const name of browsers) {
         const page = await fixture.open(body, options);
         await play(page);
         assert.deepEqual(page.faults, []);
-        await page.close();
       });
 
     scene('a form gets the value that the check has made, and is not sent with a refused one',
@@ -360,14 +359,13 @@ for (const name of browsers) {
 
     without('/gabarito.wasm', 'without the module it is a plain entry that sends, and says so', async () => {
       const page = await fixture.open(form(field('cpf', 'gbCPF', 'required')), { ready: false });
-      await page.waitForFunction(() => f.said('cpf') !== '');
+      await page.until(() => f.said('cpf') !== '');
       await page.tells(() => [form.checkValidity(), f.boxes('cpf')[0].ariaLabel], [false, 'cpf']);
       await page.evaluate(() => f.cpf.focus());
       await page.write('123x');
       await page.tells(() => [sent(form), /sem conferência/.test(f.said('cpf'))], [{ cpf: '123x' }, true]);
       await page.click('#send');
       await page.tells(() => f.submits(), 1);
-      await page.close();
     });
 
     const late = (file, title, play) => test(title, () => fixture.late(file, play));
@@ -375,7 +373,7 @@ for (const name of browsers) {
     late('/gabarito.wasm', 'what is typed while the module is on its way stays, and is checked', async (come) => {
       const estado = field('uf', 'gbEstado');
       const page = await fixture.open(form(cpf + data + estado), { ready: false });
-      await page.waitForFunction(() => f.uf?.shadowRoot?.querySelector('.plain'));
+      await page.until(() => !!f.uf?.shadowRoot?.querySelector('.plain'));
       for (const [id, text] of [['cpf', '123'], ['uf', 'xx'], ['data', '5/3']]) {
         await page.evaluate((name) => f[name].focus(), id);
         await page.write(text);
@@ -386,45 +384,42 @@ for (const name of browsers) {
       await page.tells(() => [f.cpf.value, f.texts('data'), f.texts('uf')], ['123', ['5', '3', '24'], ['xx']]);
       await page.click('#send');
       await page.tells(() => [f.submits(), f.said('cpf')], [0, 'O CPF informado é inválido.']);
-      await page.close();
     });
 
     const populado = (id) => field(id, 'gbCidadeEstadoPopulado');
     late('/municipios.txt', 'what is typed before the municipalities are there goes through the list', async (come) => {
       const page = await fixture.open(form(populado('antes') + populado('depois')), { ready: false });
-      await page.waitForFunction(() => f.said('depois') !== '');
+      await page.until(() => f.said('depois') !== '');
       for (const [id, text] of [['antes', 'sao jose dos c'], ['depois', 'xamb']]) {
         await page.evaluate((name) => f[name].focus(), id);
         await page.write(text);
       }
       come();
-      await page.waitForFunction(() => f.depois.comboListCount === 5652);
+      await page.until(() => f.depois.comboListCount === 5652);
       await page.write('io');
       await page.focus('#last');
       await page.tells(() => sent(form), { antes: 'SAO JOSE DOS CAMPOS/SP', depois: 'XAMBIOA/GO' });
       await page.tells(() => events.filter((it) => it.startsWith('change')),
         ['change antes', 'change antes', 'change depois']);
-      await page.close();
     });
 
     late('/municipios.txt', 'without the municipalities a city is typed, its state chosen', async (come) => {
       const page = await fixture.open(populado('cidade'), { ready: false });
-      await page.waitForFunction(() => f.said('cidade') !== '');
+      await page.until(() => f.said('cidade') !== '');
       await page.evaluate(() => f.cidade.focus());
       await page.write('Campi');
       come(true);
-      await page.waitForFunction(() => f.said('cidade').startsWith('Sem conexão'));
+      await page.until(() => f.said('cidade').startsWith('Sem conexão'));
       await page.write('nas');
       await page.press('Tab');
       await page.write('sp');
       await page.tells(() => [f.cidade.value, f.boxes('cidade').map((it) => it.ariaLabel)],
         ['Campinas/SP', ['cidade', 'estado']]);
-      await page.close();
     });
 
     scene('the list: typed, opened, chosen with the pointer; only what is in sight is there',
       form(field('cidade', 'gbCidadeEstadoPopulado')), async (page) => {
-      await page.waitForFunction(() => f.cidade.comboListCount === 5652);
+      await page.until(() => f.cidade.comboListCount === 5652);
       await page.evaluate(() => f.cidade.focus());
       await page.write('sao jose dos c');
       await page.tells(() => f.texts('cidade'), ['SAO JOSE DOS CAMPOS/SP']);
@@ -461,7 +456,6 @@ if (browsers.includes('chromium')) {
       await compose('05');
       await settle(page);
       await page.tells(() => [f.texts('data'), f.active('data')], [['05', '', ''], 1]);
-      await page.close();
     });
 
     test('a keyboard that sends no key codes', async () => {
@@ -471,7 +465,6 @@ if (browsers.includes('chromium')) {
       for (const text of ['1', 'a', '2']) await cdp.send('Input.insertText', { text });
       await settle(page);
       await page.tells(() => [f.texts('cpf'), f.cpf.value], [['12'], '12']);
-      await page.close();
     });
 
     test('the page comes back from the cache as it was', async () => {
@@ -488,7 +481,6 @@ if (browsers.includes('chromium')) {
       await page.press('End');
       await page.write('7');
       await page.tells(() => f.cpf.value, '1114447');
-      await page.close();
     });
 
     test('text that is dragged into it goes through the filter', async () => {
@@ -504,9 +496,8 @@ if (browsers.includes('chromium')) {
       await page.mouse.move(x + 10, y + 3);
       await page.mouse.move(...(await middle('cpf')), { steps: 5 });
       await page.mouse.up();
-      await page.waitForFunction(() => f.cpf.value !== '');
+      await page.until(() => f.cpf.value !== '');
       await page.tells(() => [f.texts('cpf'), f.cpf.value], [['12'], '12']);
-      await page.close();
     });
 
     test('a width, a zoom and a right-to-left page keep all boxes inside the frame', async () => {
@@ -537,7 +528,6 @@ if (browsers.includes('chromium')) {
         const wide = await page.evaluate(() => document.documentElement.scrollWidth <= innerWidth);
         if (zoom) assert.ok(wide, 'nothing has to be scrolled to across');
       }
-      await page.close();
     });
   });
 }

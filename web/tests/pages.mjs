@@ -1,6 +1,6 @@
 // Pages of the tests: one HTML text each, under a strict policy, with the package beside it.
 import assert from 'node:assert/strict';
-import { after, before } from 'node:test';
+import { after, afterEach, before } from 'node:test';
 import { launch, settle } from '../script/browsers.mjs';
 import { Keyboard } from '../script/keyboard.mjs';
 import { serve } from '../serve.mjs';
@@ -36,7 +36,7 @@ globalThis.sent = (form) => Object.fromEntries(new FormData(form));
 
 // One browser and one server for a describe block; `open` gives a page with the keyboard on it.
 export function browserFixture(name) {
-  const fixture = { name, pages: new Map() };
+  const fixture = { name, pages: new Map(), opened: [] };
   before(async () => {
     fixture.server = await serve([dist], {
       headers: { 'content-security-policy': policy },
@@ -60,6 +60,8 @@ export function browserFixture(name) {
     await fixture.browser.close();
     fixture.server.close();
   });
+  // Of a test that has failed too.
+  afterEach(() => Promise.all(fixture.opened.splice(0).map((page) => page.close())));
   // A file that cannot be had while `play` runs.
   fixture.without = (file, play) => fixture.late(file, (come) => (come(true), play()));
   // A file that is on its way until `play` lets it come, or lets it be lost.
@@ -84,6 +86,7 @@ export function browserFixture(name) {
       <body><main>${body}</main>`,
     );
     const page = await fixture.browser.newPage();
+    fixture.opened.push(page);
     page.faults = [];
     page.on('pageerror', (error) => page.faults.push(String(error)));
     await page.goto(fixture.server.address.slice(0, -1) + address);
@@ -95,6 +98,10 @@ export function browserFixture(name) {
       await settle(page);
     };
     page.tells = async (ask, expected) => assert.deepEqual(await page.evaluate(ask), expected);
+    // Puppeteer's own waiting evaluates a text in the page, which the policy forbids.
+    page.until = async (ask) => {
+      for (const end = Date.now() + 20000; !(await page.evaluate(ask)); ) assert.ok(Date.now() < end, String(ask));
+    };
     page.press = async (key, shift = 0) => {
       await page.keys.named(key, shift);
       await settle(page);

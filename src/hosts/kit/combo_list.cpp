@@ -67,8 +67,9 @@ struct ComboList::Storage {
 };
 
 bool ComboList::IsNext(std::u16string_view text) const {
-  return storage_ != nullptr && count_ < storage_->ends.size() &&
-         storage_->Part(storage_->buffer, count_) == text;
+  if (storage_ == nullptr || count_ >= storage_->ends.size()) return false;
+  const std::u16string_view held = At(count_);
+  return std::equal(held.begin(), held.end(), text.begin(), text.end());  // all at once, unlike ==
 }
 
 // Takes the entry by going along with a storage that has it at this very place: the list's own, which has

@@ -80,7 +80,7 @@ function(gabarito_headers name)
 endfunction()
 
 # One compiled copy of the standard headers for all libraries, so that a first build takes half the time. Headers that
-# miss an include go unseen this way: the development presets compile without it.
+# miss an include go unseen this way: the presets dev, asan and libcxx compile without it.
 option(GABARITO_PRECOMPILE "Compile the standard headers once" OFF)
 function(gabarito_precompile target)
   if(NOT TARGET gabarito_precompiled)

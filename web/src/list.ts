@@ -151,7 +151,13 @@ export class ListPopup {
     row.setAttribute('aria-posinset', String(index + 1));
     row.style.top = `${index * this.rowHeight}px`;
     row.style.height = `${this.rowHeight}px`;
-    row.textContent = this.source.entry(index);
+    const text = this.source.entry(index);
+    row.ariaLabel = text;
+    // One that is too long keeps its end, which tells a municipality from others of the same name.
+    row.textContent = text.slice(-3);
+    const start = this.element.ownerDocument.createElement('span');
+    start.textContent = text.slice(0, -3);
+    row.prepend(start);
     // In order, so that assistive technology reads the rows as they stand.
     let before: HTMLElement | null = null;
     for (const [other, element] of this.shown) {

@@ -22,6 +22,7 @@ const css = `
   position: relative;
   box-sizing: content-box;
   display: block;
+  direction: ltr; /* numbers and Portuguese, on any page */
   block-size: var(--_height, 2.5em);
   border: 1px solid var(--_line);
   border-radius: var(--_radius);
@@ -82,7 +83,7 @@ const css = `
 }
 .open[aria-expanded="true"]::before { transform: translateY(.1em) rotate(225deg); }
 .list {
-  position: fixed; inset: auto; margin: 0; padding: .25em; box-sizing: border-box; overflow-y: auto;
+  position: fixed; inset: auto; margin: 0; padding: .25em; box-sizing: border-box; overflow-y: auto; direction: ltr;
   overscroll-behavior: contain;
   border: 1px solid var(--_line); border-radius: var(--_radius);
   background: var(--_surface); color: var(--_ink); font: inherit;
@@ -92,12 +93,13 @@ const css = `
 .rail { position: relative; }
 .option {
   position: absolute; inset-inline: 0; box-sizing: border-box; padding: 0 .6em;
-  display: flex; align-items: center; white-space: nowrap; overflow: hidden; text-overflow: ellipsis;
+  display: flex; align-items: center; white-space: pre;
   border-radius: calc(var(--_radius) - .2em); cursor: pointer;
 }
+.option span { overflow: hidden; text-overflow: ellipsis; }
 .option:hover { background: color-mix(in srgb, var(--_accent) 12%, transparent); }
 .option[aria-selected="true"] { background: var(--_accent); color: var(--_surface); }
-.message { font-size: .875em; line-height: 1.35; color: var(--_danger); }
+.message { font-size: .875em; line-height: 1.35; direction: ltr; color: var(--_danger); }
 .message:not(:empty) { padding-block-start: .35em; }
 .message.note { color: var(--_quiet); }
 @media (forced-colors: active) {

@@ -518,9 +518,11 @@ if (browsers.includes('chromium')) {
           await new Promise((go) => setTimeout(go, 60));
           return fields.flatMap((it) => {
             const frame = it.shadowRoot.querySelector('.frame').getBoundingClientRect();
+            const arrow = it.shadowRoot.querySelector('.open')?.getBoundingClientRect();
             return f.boxes(it.id).filter((box) => {
               const place = box.getBoundingClientRect();
-              return place.width === 0 || place.left < frame.left - 1 || place.right > frame.right + 1;
+              const under = arrow && place.left < arrow.left && place.right > arrow.right && !box.matches('.listed');
+              return under || place.width === 0 || place.left < frame.left - 1 || place.right > frame.right + 1;
             }).map((box) => `${it.id} ${box.getAttribute('aria-label')}`);
           });
         }, width, size);

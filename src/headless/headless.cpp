@@ -41,7 +41,7 @@ std::int32_t last = 0;
 
 Entry& At(std::int32_t number) {
   const auto found = entries.find(number);
-  if (found == entries.end()) throw Erro(kObjectNotSet);
+  if (found == entries.end()) Fail(kObjectNotSet);
   return *found->second;
 }
 

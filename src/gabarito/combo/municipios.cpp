@@ -17,7 +17,7 @@ static_assert(std::size(kTexto) == kInicio[kMunicipios] + 1, "a line with a char
 }  // namespace
 
 std::u16string_view LoadResString(std::int32_t id) {
-  if (id < 1 || id > kMunicipios) throw Erro(kInvalidProcedureCall);
+  if (id < 1 || id > kMunicipios) Fail(kInvalidProcedureCall);
   return {kTexto + kInicio[id - 1], kInicio[id] - kInicio[id - 1]};
 }
 

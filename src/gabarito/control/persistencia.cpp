@@ -28,7 +28,7 @@ FontRef FontePadrao() {
 template <class Tipo>
 const Tipo& Como(const Variant& valor) {
   const Tipo* certo = std::get_if<Tipo>(&valor);
-  if (certo == nullptr) throw Erro(kTypeMismatch);
+  if (certo == nullptr) Fail(kTypeMismatch);
   return *certo;
 }
 

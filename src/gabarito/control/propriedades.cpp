@@ -73,7 +73,7 @@ void PoeMaskText(Campo& c, std::u16string_view mascara) {
 }
 
 void PoeMaxLength(Campo& c, std::int16_t t) {
-  if (t == std::numeric_limits<std::int16_t>::min()) throw Erro(kOverflow);
+  if (t == std::numeric_limits<std::int16_t>::min()) Fail(kOverflow);
   c.mMaxLength = static_cast<std::int16_t>(t < 0 ? -t : t);
   c.UserControl->PropertyChanged(u"MaxLength");
   AjustaMascara(c);

@@ -9,7 +9,7 @@ namespace {
 constexpr std::size_t kReserve = 24;
 
 void AddRecord(MSendInput& m, std::int16_t vk, std::int32_t scan, std::int32_t flags) {
-  if (m.inputRecords.size() > m.upperBound) throw Erro(kSubscriptOutOfRange);
+  if (m.inputRecords.size() > m.upperBound) Fail(kSubscriptOutOfRange);
   INPUT& record = m.inputRecords.emplace_back();
   record.type = kInputKeyboard;
   record.wVk = static_cast<std::uint16_t>(vk);

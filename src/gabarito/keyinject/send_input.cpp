@@ -29,7 +29,7 @@ bool HasSendInput(const Kernel32& kernel32) {
 void SendKeyString(InputQueue& queue, Kernel32& kernel32, Dialogs& dialogs, std::u16string_view text,
                    bool wait) {
   if (!HasSendInput(kernel32)) return dialogs.SendKeys(text, wait);
-  if (text.size() > kLongestText) throw Erro(kOverflow);
+  if (text.size() > kLongestText) Fail(kOverflow);
 
   thread_local MSendInput m;
   BeginRun(m, queue, text);

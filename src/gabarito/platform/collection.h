@@ -20,7 +20,7 @@ class Collection {
 
   // Position 1 to Count(); raises 9 elsewhere.
   const Variant& Item(std::int32_t position) const {
-    if (position < 1 || position > Count()) throw Erro(kSubscriptOutOfRange);
+    if (position < 1 || position > Count()) Fail(kSubscriptOutOfRange);
     return items_[static_cast<std::size_t>(position) - 1];
   }
 

@@ -76,7 +76,7 @@ bool IsInCalendar(Date date) {
 }
 
 Date DateFromParts(const DateParts& parts) {
-  if (!IsInCalendar(parts)) throw Erro(kInvalidProcedureCall);
+  if (!IsInCalendar(parts)) Fail(kInvalidProcedureCall);
   const std::int32_t day = DaysSinceYear0(parts.year, parts.month, parts.day) - kDayZero;
   const Date time = static_cast<Date>((parts.hour * 60 + parts.minute) * 60 + parts.second) / kSecondsOfDay;
   return day < 0 ? day - time : day + time;
@@ -85,7 +85,7 @@ Date DateFromParts(const DateParts& parts) {
 // The year is taken off in blocks of 400, 100, 4 and 1 years, each counted from 1 March.
 DateParts PartsOf(Date date) {
   DayAndSecond split;
-  if (!Split(date, split)) throw Erro(kOverflow);
+  if (!Split(date, split)) Fail(kOverflow);
   std::int32_t rest = split.day + kDayZero;
   std::int32_t year = rest / kDaysOf400Years * 400;
   rest %= kDaysOf400Years;

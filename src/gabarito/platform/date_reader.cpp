@@ -245,7 +245,7 @@ bool IsDate(std::u16string_view text, const Regional& regional, Date now) {
 
 Date CDate(std::u16string_view text, const Regional& regional, Date now) {
   Date date;
-  if (!ReadDate(text, regional, now, date)) throw Erro(kTypeMismatch);
+  if (!ReadDate(text, regional, now, date)) Fail(kTypeMismatch);
   return date;
 }
 

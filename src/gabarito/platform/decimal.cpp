@@ -45,14 +45,14 @@ Wide Shortened(Wide coefficient, std::int32_t count) {
 Scaled Fitted(Wide coefficient, std::int32_t scale) {
   if (coefficient == 0) return {0, 0};
   for (; scale < 0; ++scale) {
-    if (coefficient > kLargestCoefficient / 10) throw Erro(kOverflow);
+    if (coefficient > kLargestCoefficient / 10) Fail(kOverflow);
     coefficient *= 10;
   }
   // Each try starts from all digits: dropping them one by one would round twice, 0.45 to 0.5 to 1.
   std::int32_t surplus = std::max(0, scale - kLargestScale);
   while (surplus < scale && Shortened(coefficient, surplus) > kLargestCoefficient) ++surplus;
   const Scaled fitted{Shortened(coefficient, surplus), scale - surplus};
-  if (fitted.coefficient > kLargestCoefficient) throw Erro(kOverflow);
+  if (fitted.coefficient > kLargestCoefficient) Fail(kOverflow);
   return fitted;
 }
 

@@ -132,7 +132,7 @@ double DecimalReader::Parse(std::int64_t power) const {
 }
 
 Significant ToSignificant(double value) {
-  if (!std::isfinite(value)) throw Erro(kOverflow);
+  if (!std::isfinite(value)) Fail(kOverflow);
   if (value == 0) return {0, 0, false};
   const double magnitude = std::fabs(value);
   const auto whole = static_cast<std::uint64_t>(std::min(magnitude, static_cast<double>(kSafeLimit)));

@@ -35,4 +35,6 @@ Erro::Erro(std::int32_t number) : Erro(number, u"Gabarito", DescriptionOf(number
 Erro::Erro(std::int32_t number, std::u16string source, std::u16string description)
     : number_(number), source_(std::move(source)), description_(std::move(description)) {}
 
+void Fail(std::int32_t number) { throw Erro(number); }
+
 }  // namespace gabarito

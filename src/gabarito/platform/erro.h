@@ -40,6 +40,9 @@ class Erro : public std::exception {
   std::u16string description_;
 };
 
+// Throws Erro(number). A check costs a call where it stands, and the making of the error lies out of its way.
+[[noreturn]] void Fail(std::int32_t number);
+
 }  // namespace gabarito
 
 #endif  // GABARITO_PLATFORM_ERRO_H

@@ -76,7 +76,7 @@ std::u16string Grouped(const Whole& whole, std::u16string_view separator) {
 
 // Done before a text is read: one that comes back unchanged must not hide a pattern that is none.
 void CheckPattern(std::u16string_view pattern) {
-  if (pattern != u"#,#" && !IsZeros(pattern)) throw Erro(kInvalidProcedureCall);
+  if (pattern != u"#,#" && !IsZeros(pattern)) Fail(kInvalidProcedureCall);
 }
 
 }  // namespace

@@ -42,7 +42,7 @@ std::u16string Written(const DateParts& parts, std::u16string_view pattern) {
       text.push_back(pattern.front());
       pattern.remove_prefix(1);
     } else {
-      throw Erro(kInvalidProcedureCall);
+      Fail(kInvalidProcedureCall);
     }
   }
   return text;

@@ -14,7 +14,7 @@ using Range = LikePattern::Range;
 // Takes the next piece of a set off the pattern at `position`: one character, or two with a "-" between
 // them. "[a-]" ends with a "-" that is no range. Raises 93 where the pattern ends inside the set.
 Range NextRange(std::u16string_view pattern, std::size_t& position) {
-  if (position >= pattern.size()) throw Erro(kInvalidPatternString);
+  if (position >= pattern.size()) Fail(kInvalidPatternString);
   const char16_t low = pattern[position++];
   const bool isRange =
       position + 1 < pattern.size() && pattern[position] == u'-' && pattern[position + 1] != u']';
@@ -63,7 +63,7 @@ LikePattern::LikePattern(std::u16string_view pattern) : pattern_(pattern) {
     if (set.excluding) ++position;
     while (IsSetOpen(pattern, position)) {
       const Range range = NextRange(pattern, position);
-      if (range.low > range.high) throw Erro(kInvalidPatternString);
+      if (range.low > range.high) Fail(kInvalidPatternString);
       set.ranges.push_back(range);
     }
     set.end = position + 1;

@@ -31,7 +31,7 @@ char16_t SmallOf(char16_t c) {
 }
 
 std::size_t SizeOf(std::int32_t value) {
-  if (value < 0) throw Erro(kInvalidPropertyValue);
+  if (value < 0) Fail(kInvalidPropertyValue);
   return static_cast<std::size_t>(value);
 }
 
@@ -45,7 +45,7 @@ std::vector<MaskedEdit::Position> MaskedEdit::Parse(std::u16string_view pattern)
     if (c == u'>' || c == u'<') {
       letters = c == u'>' ? Letters::kCapital : Letters::kSmall;
     } else if (c == u'\\') {
-      if (++i == pattern.size()) throw Erro(kInvalidPropertyValue);
+      if (++i == pattern.size()) Fail(kInvalidPropertyValue);
       positions.push_back({kLiteral, pattern[i], letters});
     } else if (kPlaces.find(c) != std::u16string_view::npos) {
       positions.push_back({c, kPrompt, letters});
@@ -154,7 +154,7 @@ void MaskedEdit::Empty(std::u16string& text, std::size_t start, std::size_t leng
 }
 
 void MaskedEdit::Mask(std::u16string_view pattern) {
-  if (pattern.size() > kLongest) throw Erro(kInvalidPropertyValue);
+  if (pattern.size() > kLongest) Fail(kInvalidPropertyValue);
   // Whatever can fail comes before the first change.
   std::vector<Position> positions = Parse(pattern);
   std::u16string mask(pattern);
@@ -167,10 +167,10 @@ void MaskedEdit::Mask(std::u16string_view pattern) {
 void MaskedEdit::Text(std::u16string_view text) {
   std::u16string entered = !IsPlain() && text.empty() ? Template() : std::u16string(text);
   if (!IsPlain()) {
-    if (entered.size() != positions_.size()) throw Erro(kInvalidPropertyValue);
+    if (entered.size() != positions_.size()) Fail(kInvalidPropertyValue);
     for (std::size_t i = 0; i < entered.size(); ++i) {
       const bool fits = IsPlace(i) ? Fits(positions_[i], entered[i]) : IsLiteral(i, entered[i]);
-      if (!fits) throw Erro(kInvalidPropertyValue);
+      if (!fits) Fail(kInvalidPropertyValue);
       if (IsPlace(i)) entered[i] = Entered(positions_[i], entered[i]);
     }
   }
@@ -179,7 +179,7 @@ void MaskedEdit::Text(std::u16string_view text) {
 }
 
 void MaskedEdit::MaxLength(std::int32_t length) {
-  if (length < 0 || length > kLongest) throw Erro(kInvalidPropertyValue);
+  if (length < 0 || length > kLongest) Fail(kInvalidPropertyValue);
   max_length_ = length;
 }
 

@@ -248,7 +248,7 @@ Integer ToInteger(double value) {
   const double whole = std::nearbyint(value);
   const bool fits =
       whole >= std::numeric_limits<Integer>::min() && whole <= std::numeric_limits<Integer>::max();
-  if (!fits) throw Erro(kOverflow);  // a value that is no number fits nowhere
+  if (!fits) Fail(kOverflow);  // a value that is no number fits nowhere
   return static_cast<Integer>(whole);
 }
 
@@ -295,8 +295,8 @@ bool ReadDouble(std::u16string_view text, const Regional& regional, double& valu
 
 double ToDouble(std::u16string_view text, const Regional& regional) {
   double number = 0;
-  if (!ReadNumber(text, regional, number)) throw Erro(kTypeMismatch);
-  if (std::isinf(number)) throw Erro(kOverflow);
+  if (!ReadNumber(text, regional, number)) Fail(kTypeMismatch);
+  if (std::isinf(number)) Fail(kOverflow);
   return number;
 }
 

@@ -23,9 +23,13 @@ class PulaErros {
   template <class Step>
   bool operator()(Step&& step) {
 #ifdef __OPTIMIZE_SIZE__
-    // One place that catches, instead of one a step: a third of a module that is built for size.
-    return Guarded([](void* it) { (*static_cast<std::remove_reference_t<Step>*>(it))(); },
-                   const_cast<void*>(static_cast<const void*>(&step)));
+    try {
+      std::forward<Step>(step)();
+      return true;
+    } catch (...) {
+      Note();
+      return false;
+    }
 #else
     return Caught([&] { std::forward<Step>(step)(); });
 #endif
@@ -55,8 +59,8 @@ class PulaErros {
     }
   }
 #ifdef __OPTIMIZE_SIZE__
-  [[gnu::noinline]] bool Guarded(void (*run)(void*), void* step) {
-    return Caught([&] { run(step); });
+  [[gnu::noinline]] void Note() noexcept {
+    Caught([] { throw; });
   }
 #endif
 

@@ -21,12 +21,12 @@ constexpr std::int32_t kFirstOfTable = 128;
 constexpr std::int32_t kLastOfTable = 159;
 
 std::size_t SizeOf(std::int32_t length) {
-  if (length < 0) throw Erro(kInvalidProcedureCall);
+  if (length < 0) Fail(kInvalidProcedureCall);
   return static_cast<std::size_t>(length);
 }
 
 std::size_t OffsetOf(std::int32_t position) {
-  if (position < 1) throw Erro(kInvalidProcedureCall);
+  if (position < 1) Fail(kInvalidProcedureCall);
   return static_cast<std::size_t>(position) - 1;
 }
 
@@ -118,7 +118,7 @@ std::uint8_t Asc(char16_t character) {
 }
 
 char16_t Chr(std::int32_t code) {
-  if (code < 0 || code > 255) throw Erro(kInvalidProcedureCall);
+  if (code < 0 || code > 255) Fail(kInvalidProcedureCall);
   if (code < kFirstOfTable || code > kLastOfTable) return static_cast<char16_t>(code);
   return kCodePage[code - kFirstOfTable];
 }

@@ -21,7 +21,7 @@ template <class... Cases>
 Conversion(Cases...) -> Conversion<Cases...>;
 
 template <class Result>
-constexpr auto kRefusal = [](const auto&) -> Result { throw Erro(kTypeMismatch); };
+constexpr auto kRefusal = [](const auto&) -> Result { Fail(kTypeMismatch); };
 
 }  // namespace
 

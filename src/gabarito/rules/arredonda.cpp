@@ -10,7 +10,7 @@ namespace {
 
 // A floating-point fault is an overflow to whoever called.
 double ExigeFinito(double valor) {
-  if (!std::isfinite(valor)) throw Erro(kOverflow);
+  if (!std::isfinite(valor)) Fail(kOverflow);
   return valor;
 }
 

@@ -29,7 +29,7 @@ template <auto mantem, std::size_t kTamanho>
 std::u16string Pontua(std::u16string_view s, const Feitio<kTamanho>& feitio) {
   typename Feitio<kTamanho>::Pistas pistas;
   if (feitio.Le(s, pistas)) return std::u16string(s);
-  if (s.size() > kMaiorTextoPercorrido) throw Erro(kOverflow);
+  if (s.size() > kMaiorTextoPercorrido) Fail(kOverflow);
 
   std::array<char16_t, kTamanho> mantidos;
   std::size_t quantos = 0;

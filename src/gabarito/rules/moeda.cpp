@@ -57,7 +57,7 @@ bool EhMarca(const Separador& separador) {
 std::int32_t PosicaoDoSeparador(std::u16string_view valor, std::u16string_view separador) {
   if (separador.empty()) return 0;
   const std::int32_t posicao = InStr(valor, separador);
-  if (posicao > static_cast<std::int32_t>(kMaiorTextoPercorrido)) throw Erro(kOverflow);
+  if (posicao > static_cast<std::int32_t>(kMaiorTextoPercorrido)) Fail(kOverflow);
   return posicao;
 }
 

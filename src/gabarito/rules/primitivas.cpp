@@ -10,7 +10,7 @@ namespace gabarito {
 namespace {
 
 void ExigeTextoPercorrivel(std::u16string_view texto) {
-  if (texto.size() > kMaiorTextoPercorrido) throw Erro(kOverflow);
+  if (texto.size() > kMaiorTextoPercorrido) Fail(kOverflow);
 }
 
 // A set of characters that ignores case. Members that are ASCII as capitals are kept as flags, so that one

@@ -56,7 +56,7 @@ struct Campo : Host {
 
 // The box of an array; raises 9 on an index outside 0 to 2, which only a host can make up.
 inline TextBox& CaixaDe(const std::array<TextBox*, 3>& caixas, std::int16_t indice) {
-  if (indice < 0 || indice > 2) throw Erro(kSubscriptOutOfRange);
+  if (indice < 0 || indice > 2) Fail(kSubscriptOutOfRange);
   return *caixas[static_cast<std::size_t>(indice)];
 }
 

@@ -15,7 +15,7 @@ class Referencia {
 
   T* operator->() const { return &**this; }
   T& operator*() const {
-    if (objeto_ == nullptr) throw Erro(kObjectNotSet);
+    if (objeto_ == nullptr) Fail(kObjectNotSet);
     return *objeto_;
   }
   explicit operator bool() const { return objeto_ != nullptr; }

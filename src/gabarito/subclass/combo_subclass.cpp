@@ -77,7 +77,7 @@ std::int32_t ProcedimentoDoModulo(WindowHook& hook, WindowHandle hWnd, std::int3
   };
   try {
     campo = reinterpret_cast<Campo*>(hook.GetPropA(hWnd, kObjectPointer));
-    if (campo == nullptr) throw Erro(kObjectNotSet);
+    if (campo == nullptr) Fail(kObjectNotSet);
     return ComboWindowProc(*campo, hWnd, uMsg, wParam, lParam);
   } catch (const Erro& erro) {
     desiste(erro.Number(), erro.Description());
@@ -92,7 +92,7 @@ std::int32_t ProcedimentoDoModulo(WindowHook& hook, WindowHandle hWnd, std::int3
 }  // namespace
 
 void HookCombo(Campo& c) {
-  if (c.WindowHook == nullptr) throw Erro(kNotSupported);
+  if (c.WindowHook == nullptr) Fail(kNotSupported);
   const WindowHandle hWnd = c.Combo1->hWnd();
   const auto procedimento = reinterpret_cast<WindowProc>(static_cast<WindowProcedure>(ProcedimentoDoModulo));
   const WindowProc atual = c.WindowHook->GetWindowLongA(hWnd, GWL_WNDPROC);
@@ -105,7 +105,7 @@ void HookCombo(Campo& c) {
 }
 
 void UnhookCombo(Campo& c) {
-  if (c.WindowHook == nullptr) throw Erro(kNotSupported);
+  if (c.WindowHook == nullptr) Fail(kNotSupported);
   UnhookCombo(*c.WindowHook, c.Combo1->hWnd());
 }
 

@@ -26,7 +26,7 @@ std::u16string EspacaTelefone(std::u16string_view texto) {
 
 // Length of a text as a counter of 16 bits; raises 6 beyond it.
 std::int16_t Tamanho16(std::u16string_view texto) {
-  if (texto.size() > std::numeric_limits<std::int16_t>::max()) throw Erro(kOverflow);
+  if (texto.size() > std::numeric_limits<std::int16_t>::max()) Fail(kOverflow);
   return static_cast<std::int16_t>(texto.size());
 }
 

@@ -16,7 +16,7 @@ namespace gabarito::kit {
 struct FieldParts;
 
 inline void RefuseNegative(float length) {
-  if (length < 0) throw Erro(kInvalidPropertyValue);
+  if (length < 0) Fail(kInvalidPropertyValue);
 }
 
 // The font of a child that has not been given one; nobody can reach it to change it.
@@ -52,7 +52,7 @@ class ChildModel : public Interface {
     Note(Change::kColor);
   }
   void Font(const FontRef& font) override {
-    if (font == nullptr) throw Erro(kObjectNotSet);
+    if (font == nullptr) Fail(kObjectNotSet);
     font_ = font;
     Note(Change::kFont);
   }

@@ -89,7 +89,7 @@ void ComboList::MakeOwn() {
 }
 
 void ComboList::Add(std::u16string_view text) {
-  if (count_ >= kMost) throw Erro(kOverflow);
+  if (count_ >= kMost) Fail(kOverflow);
   if (!Follows(text)) {
     if (storage_ == nullptr || count_ < storage_->ends.size()) MakeOwn();
     storage_->Add(text);

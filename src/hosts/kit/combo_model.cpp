@@ -55,7 +55,7 @@ std::u16string_view ComboModel::List(std::int16_t index) const {
 }
 
 void ComboModel::ListIndex(std::int16_t index) {
-  if (index < -1 || index >= static_cast<std::int32_t>(list_.Count())) throw Erro(kInvalidPropertyValue);
+  if (index < -1 || index >= static_cast<std::int32_t>(list_.Count())) Fail(kInvalidPropertyValue);
   Select(index);
 }
 

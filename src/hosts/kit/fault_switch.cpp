@@ -37,7 +37,7 @@ void FaultSwitch::Judge(std::string_view child, std::string_view member, Access 
     operations_->push_back(operation.append(number != 0 ? "!" : ""));
   }
   Rearm();
-  if (number != 0) throw Erro(number);
+  if (number != 0) Fail(number);
 }
 
 }  // namespace gabarito::kit

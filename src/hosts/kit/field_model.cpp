@@ -10,12 +10,12 @@ FieldModel::FieldModel(std::shared_ptr<FormModel> form, std::string name)
 FieldModel::~FieldModel() { End(); }
 
 FieldParts& FieldModel::Parts() const {
-  if (parts_ == nullptr) throw Erro(kObjectNotSet);
+  if (parts_ == nullptr) Fail(kObjectNotSet);
   return *parts_;
 }
 
 Gabarito& FieldModel::operator*() {
-  if (!gabarito_) throw Erro(kObjectNotSet);
+  if (!gabarito_) Fail(kObjectNotSet);
   return *gabarito_;
 }
 

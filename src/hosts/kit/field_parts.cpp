@@ -9,7 +9,7 @@ constexpr const ChildDesign& Design(std::string_view name) {
   for (const ChildDesign& design : kChildren) {
     if (design.name == name) return design;
   }
-  throw Erro(kSubscriptOutOfRange);
+  Fail(kSubscriptOutOfRange);
 }
 
 }  // namespace

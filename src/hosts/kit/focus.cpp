@@ -6,7 +6,7 @@ namespace gabarito::kit {
 
 void Focus::Move(Focusable& receiver) {
   if (focused_ == &receiver && receiver.CanTakeFocus()) return;
-  if (frozen_ || !receiver.CanTakeFocus()) throw Erro(kInvalidProcedureCall);
+  if (frozen_ || !receiver.CanTakeFocus()) Fail(kInvalidProcedureCall);
   const std::uint64_t move = ++moves_;
   receiver_ = &receiver;
   // What has never been told that it has the focus is not told that it loses it: two fields that both refuse

@@ -54,7 +54,7 @@ void SetProperty(Gabarito& field, Property property, std::int32_t number, std::u
     case Property::kComboListCount:
       break;
   }
-  throw Erro(kNoSuchMember);
+  Fail(kNoSuchMember);
 }
 
 std::u16string GetProperty(Gabarito& field, Property property) {
@@ -76,7 +76,7 @@ std::u16string GetProperty(Gabarito& field, Property property) {
     case Property::kComboListCount:
       return Decimal(field.ComboListCount());
     default:
-      throw Erro(kNoSuchMember);
+      Fail(kNoSuchMember);
   }
 }
 

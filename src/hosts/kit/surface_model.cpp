@@ -33,14 +33,14 @@ void SurfaceModel::BackColor(gabarito::Color color) {
 }
 
 void SurfaceModel::Font(const FontRef& font) {
-  if (font == nullptr) throw Erro(kObjectNotSet);
+  if (font == nullptr) Fail(kObjectNotSet);
   font_ = font;
   changes_.Note(Change::kFont);
 }
 
 const AmbientProperties& SurfaceModel::Ambient() const {
   const AmbientProperties* const ambient = parts_.form->services.ambient;
-  if (ambient == nullptr) throw Erro(kObjectNotSet);
+  if (ambient == nullptr) Fail(kObjectNotSet);
   return *ambient;
 }
 

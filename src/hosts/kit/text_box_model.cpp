@@ -6,7 +6,7 @@
 namespace gabarito::kit {
 
 void TextBoxModel::MaxLength(std::int32_t length) {
-  if (length < 0) throw Erro(kInvalidPropertyValue);
+  if (length < 0) Fail(kInvalidPropertyValue);
   limit_ = length;
   Note(Change::kLimit);
 }

@@ -31,13 +31,13 @@ void TextLine::CopyOf(const TextLine& other) {
 }
 
 void TextLine::SelStart(std::int32_t start) {
-  if (start < 0) throw Erro(kInvalidPropertyValue);
+  if (start < 0) Fail(kInvalidPropertyValue);
   start_ = std::min(start, Size());
   length_ = 0;
 }
 
 void TextLine::SelLength(std::int32_t length) {
-  if (length < 0) throw Erro(kInvalidPropertyValue);
+  if (length < 0) Fail(kInvalidPropertyValue);
   length_ = std::min(length, Size() - start_);
 }
 

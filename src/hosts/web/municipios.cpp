@@ -45,7 +45,7 @@ bool HasMunicipios() { return !TheTable().starts.empty(); }
 // Stands in for the core's own, which carries the table inside: an empty list until the page has fetched it.
 std::u16string_view LoadResString(std::int32_t id) {
   const auto& table = web::TheTable();
-  if (id < 1 || id > kMunicipios || table.starts.empty()) throw Erro(kInvalidProcedureCall);
+  if (id < 1 || id > kMunicipios || table.starts.empty()) Fail(kInvalidProcedureCall);
   const auto at = static_cast<std::size_t>(id);
   return std::u16string_view(table.text)
       .substr(table.starts[at - 1], table.starts[at] - table.starts[at - 1]);

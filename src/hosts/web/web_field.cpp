@@ -49,7 +49,7 @@ void WebField::Register() {
 }
 
 kit::InputModel& WebField::Entry(std::int32_t child) {
-  if (child < 0 || child >= kEntries) throw Erro(kSubscriptOutOfRange);
+  if (child < 0 || child >= kEntries) Fail(kSubscriptOutOfRange);
   return *model_.Parts().InTabOrder()[static_cast<std::size_t>(child)];
 }
 

@@ -5,7 +5,6 @@ function(gabarito_wasm_module target name)
   target_sources(${target} PRIVATE ${PROJECT_SOURCE_DIR}/cmake/wasm/trimmings.cpp)
   if("PAGE_NUMBERS" IN_LIST ARGN)
     target_sources(${target} PRIVATE ${PROJECT_SOURCE_DIR}/cmake/wasm/numbers.cpp)
-    target_link_options(${target} PRIVATE LINKER:--wrap=strtod LINKER:--wrap=snprintf)
   endif()
   if("OWN_EXCEPTIONS" IN_LIST ARGN)
     # The optimiser across translation units takes the tables of types apart, and fails at these.

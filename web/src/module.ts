@@ -24,15 +24,16 @@ function wallClock(): number {
   return now.getTime() - now.getTimezoneOffset() * 60000;
 }
 
-// With so many significant digits, as in 1.25e-7. A value right between two goes to the even one, as everywhere in the
-// field and unlike toExponential alone: of that the longest form is asked, in which such a value stands whole.
-export function significant(value: number, digits: number): string {
-  const [whole, exponent] = value.toExponential(100).split('e') as [string, string];
-  const kept = whole.replace('.', '').slice(0, digits);
-  const rest = whole.replace('.', '').slice(digits);
-  const between = /^50*$/.test(rest);
-  if (!between || Number(kept.at(-1)) % 2 !== 0) return value.toExponential(digits - 1);
-  return `${kept[0]}${digits > 1 ? '.' : ''}${kept.slice(1)}e${exponent}`;
+// With so many significant digits, as a whole number and the power of ten that belongs to it. A value right between
+// two goes to the even one, as everywhere in the field and unlike toExponential alone: of that the longest form is
+// asked, in which such a value stands whole.
+function significant(value: number, digits: number): [number, number] {
+  const written = (places: number) => value.toExponential(places).replace('.', '').split('e') as [string, string];
+  const [whole, power] = written(100);
+  const kept = whole.slice(0, digits);
+  const isEven = /^50*$/.test(whole.slice(digits)) && Number(kept.at(-1)) % 2 === 0;
+  const [coefficient, exponent] = isEven ? [kept, power] : written(digits - 1);
+  return [Number(coefficient), Number(exponent) - (digits - 1)];
 }
 
 const wide = new TextDecoder('utf-16le', { ignoreBOM: true });
@@ -60,13 +61,12 @@ export class Module {
           const [newCode, newShift] = calls?.keyUp(field, code, shift) ?? [code, shift];
           return (newShift << 16) | (newCode & 0xffff);
         },
-        gb_number: (at: number, size: number) =>
-          Number(String.fromCharCode(...new Uint8Array(module.exports.memory.buffer, at, size))),
+        gb_number: (at: number, size: number, exponent: number) =>
+          Number(`${String.fromCharCode(...new Uint8Array(module.exports.memory.buffer, at, size))}e${exponent}`),
         gb_digits: (value: number, digits: number, at: number) => {
-          const bytes = new Uint8Array(module.exports.memory.buffer, at);
-          const shown = significant(value, digits);
-          for (let i = 0; i < shown.length; i++) bytes[i] = shown.charCodeAt(i);
-          return shown.length;
+          const [coefficient, exponent] = significant(value, digits);
+          module.view().words[at >> 2] = exponent;
+          return coefficient;
         },
         gb_beep: (field: number) => calls?.beep(field),
         gb_tab: (field: number, backwards: number) => calls?.tab(field, backwards !== 0),

@@ -1,6 +1,5 @@
 #include <algorithm>
 #include <array>
-#include <charconv>
 #include <cstddef>
 
 #include "gabarito/platform/decimal_digits.h"
@@ -22,24 +21,34 @@ struct Scaled {
   std::int32_t scale;
 };
 
-Wide PowerOfTen(std::int32_t exponent) {
-  Wide power = 1;
-  for (; exponent > 0; --exponent) power *= 10;
-  return power;
+// Takes the last decimal digit off. In parts that 64 bits divide: a division of 128 is the library's, and
+// long.
+std::uint32_t TakeDigit(Wide& number) {
+  const auto high = static_cast<std::uint64_t>(number >> 64);
+  const auto low = static_cast<std::uint64_t>(number);
+  const std::uint64_t middle = high % 10 << 32 | low >> 32;
+  const std::uint64_t last = middle % 10 << 32 | (low & 0xFFFFFFFF);
+  number = Wide{high / 10} << 64 | (middle / 10 << 32) + last / 10;
+  return static_cast<std::uint32_t>(last % 10);
 }
 
-// Without the last `count` decimals, rounded half to even.
-Wide Shortened(Wide coefficient, std::int32_t count) {
-  if (count == 0) return coefficient;
-  constexpr std::int32_t kMostDigits = 38;  // of 128 bits; 10^39 would wrap
-  if (count > kMostDigits) return 0;
-  const Wide unit = PowerOfTen(count);
-  const Wide quotient = coefficient / unit;
-  const Wide remainder = coefficient % unit;
-  const Wide half = unit / 2;
-  const bool up = remainder > half || (remainder == half && quotient % 2 != 0);
-  return up ? quotient + 1 : quotient;
-}
+// A number that loses decimals, with what has to be known of those to round once: 0.45 to 0.5 to 1 would be
+// twice.
+struct Shortened {
+  Wide kept;
+  std::uint32_t last = 0;  // of the digits lost
+  bool more = false;       // whether anything but zeros stood behind it
+
+  void Drop() {
+    more = more || last != 0;
+    last = TakeDigit(kept);
+  }
+  // Half to even.
+  Wide Rounded() const {
+    const bool up = last > 5 || (last == 5 && (more || kept % 2 != 0));
+    return up ? kept + 1 : kept;
+  }
+};
 
 // Brings a number into the type, with a single rounding. Raises 6 when its integer part does not fit.
 Scaled Fitted(Wide coefficient, std::int32_t scale) {
@@ -48,12 +57,11 @@ Scaled Fitted(Wide coefficient, std::int32_t scale) {
     if (coefficient > kLargestCoefficient / 10) Fail(kOverflow);
     coefficient *= 10;
   }
-  // Each try starts from all digits: dropping them one by one would round twice, 0.45 to 0.5 to 1.
-  std::int32_t surplus = std::max(0, scale - kLargestScale);
-  while (surplus < scale && Shortened(coefficient, surplus) > kLargestCoefficient) ++surplus;
-  const Scaled fitted{Shortened(coefficient, surplus), scale - surplus};
-  if (fitted.coefficient > kLargestCoefficient) Fail(kOverflow);
-  return fitted;
+  Shortened number{coefficient};
+  for (; scale > kLargestScale; --scale) number.Drop();
+  for (; scale > 0 && number.Rounded() > kLargestCoefficient; --scale) number.Drop();
+  if (number.Rounded() > kLargestCoefficient) Fail(kOverflow);
+  return {number.Rounded(), scale};
 }
 
 // A factor as it enters the type. Trailing zeros of a whole number stay in the exponent, so that the
@@ -72,46 +80,40 @@ double Nearest(const Scaled& number) {
   DecimalReader reader;
   std::array<std::uint32_t, 39> digits;
   std::size_t count = 0;
-  for (Wide rest = number.coefficient; rest != 0; rest /= 10) {
-    digits[count++] = static_cast<std::uint32_t>(rest % 10);
-  }
+  for (Wide rest = number.coefficient; rest != 0;) digits[count++] = TakeDigit(rest);
   while (count > 0) reader.AddInteger(digits[--count]);
   return reader.Value(-number.scale);
 }
 
-void Append(std::u16string& text, std::string_view ascii) { text.append(ascii.begin(), ascii.end()); }
-
 // "1234,5" and "0,0012": `digits` with the decimal mark behind the first `whole` of them.
-void AppendPlain(std::u16string& text, std::string_view digits, std::int32_t whole,
+void AppendPlain(std::u16string& text, std::u16string_view digits, std::int32_t whole,
                  std::u16string_view decimal) {
   const auto size = static_cast<std::int32_t>(digits.size());
   if (whole <= 0) {
     text.append(u"0").append(decimal).append(static_cast<std::size_t>(-whole), u'0');
-    Append(text, digits);
+    text.append(digits);
   } else if (whole >= size) {
-    Append(text, digits);
+    text.append(digits);
     text.append(static_cast<std::size_t>(whole - size), u'0');
   } else {
-    Append(text, digits.substr(0, static_cast<std::size_t>(whole)));
+    text.append(digits.substr(0, static_cast<std::size_t>(whole)));
     text.append(decimal);
-    Append(text, digits.substr(static_cast<std::size_t>(whole)));
+    text.append(digits.substr(static_cast<std::size_t>(whole)));
   }
 }
 
 // "1,5E-07": `digits` with the mark behind the first, the exponent in at least two digits.
-void AppendExponentForm(std::u16string& text, std::string_view digits, std::int32_t exponent,
+void AppendExponentForm(std::u16string& text, std::u16string_view digits, std::int32_t exponent,
                         std::u16string_view decimal) {
-  Append(text, digits.substr(0, 1));
+  text.append(digits.substr(0, 1));
   if (digits.size() > 1) {
     text.append(decimal);
-    Append(text, digits.substr(1));
+    text.append(digits.substr(1));
   }
   text.append(exponent < 0 ? u"E-" : u"E+");
-  std::array<char, 8> buffer;
   const std::int32_t magnitude = exponent < 0 ? -exponent : exponent;
   if (magnitude < 10) text.push_back(u'0');
-  const auto* const end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), magnitude).ptr;
-  Append(text, {buffer.data(), static_cast<std::size_t>(end - buffer.data())});
+  text.append(WholeDigits(static_cast<std::uint64_t>(magnitude)).Text());
 }
 
 }  // namespace
@@ -120,9 +122,8 @@ std::u16string NumberToText(double value, std::u16string_view decimal) {
   constexpr std::int32_t kMostWholeDigits = 15;
   constexpr std::int32_t kMostLeadingZeros = 3;  // behind the mark: 0.0001 has them, 0.00001 has one more
   const Significant number = ToSignificant(value);
-  std::array<char, 24> buffer;
-  const auto* const end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number.coefficient).ptr;
-  const std::string_view digits(buffer.data(), static_cast<std::size_t>(end - buffer.data()));
+  const WholeDigits coefficient(number.coefficient);
+  const std::u16string_view digits = coefficient.Text();
   const std::int32_t whole = static_cast<std::int32_t>(digits.size()) + number.exponent;
 
   std::u16string text;

@@ -2,14 +2,13 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdio>
-#include <cstdlib>
-#include <cstring>
 #include <iterator>
 #include <limits>
 #include <string>
+#include <string_view>
 
 #include "gabarito/platform/erro.h"
+#include "gabarito/platform/exact_digits.h"
 
 namespace gabarito {
 namespace {
@@ -32,21 +31,6 @@ Significant WithoutTrailingZeros(Significant number) {
   return number;
 }
 
-// `magnitude` rounded to so many digits. The standard library does the rounding, exactly; whatever mark the
-// locale of the process puts behind the first digit is passed over.
-Significant Rounded(double magnitude, int digits) {
-  std::array<char, 40> text;
-  std::snprintf(text.data(), text.size(), "%.*e", digits - 1, magnitude);
-  Significant number{0, 0, false};
-  const char* at = text.data();
-  for (; *at != 'e'; ++at) {
-    if (*at < '0' || *at > '9') continue;
-    number.coefficient = number.coefficient * 10 + static_cast<std::uint64_t>(*at - '0');
-  }
-  number.exponent = static_cast<std::int32_t>(std::strtol(at + 1, nullptr, 10)) - (digits - 1);
-  return number;
-}
-
 // The fewest digits that tell `magnitude` from its neighbours. Asked for below the normal doubles alone,
 // which hold less than 15: 4.94E-324 would show digits that nobody has written.
 Significant Shortest(double magnitude) {
@@ -54,8 +38,8 @@ Significant Shortest(double magnitude) {
   while (digits < kSafeDigits) {
     const Significant number = Rounded(magnitude, digits);
     DecimalReader reader;
-    for (const char digit : std::to_string(number.coefficient)) {
-      reader.AddInteger(static_cast<std::uint32_t>(digit - '0'));
+    for (const char16_t digit : WholeDigits(number.coefficient).Text()) {
+      reader.AddInteger(digit - std::uint32_t{u'0'});
     }
     if (reader.Value(number.exponent) == magnitude) break;
     ++digits;
@@ -64,6 +48,13 @@ Significant Shortest(double magnitude) {
 }
 
 }  // namespace
+
+WholeDigits::WholeDigits(std::uint64_t number) {
+  do {
+    units_[--first_] = static_cast<char16_t>(u'0' + number % 10);
+    number /= 10;
+  } while (number != 0);
+}
 
 bool ExactProduct(std::uint64_t coefficient, std::int64_t exponent, double& value) {
   if (coefficient > kLargestExact) return false;
@@ -111,24 +102,15 @@ double DecimalReader::Value(std::int64_t exponent) const {
 
 double DecimalReader::Parse(std::int64_t power) const {
   constexpr std::int64_t kFarBeyond = 2000;  // every double lies within 10^-324 and 10^309
-  constexpr std::size_t kExponentRoom = 24;
-  // Judged before a text is made of it: the exponent of "1e99999999999999" would be out of range for the
-  // parser with no hint on which side.
+  // Judged before: of "1e99999999999999" the exponent itself is out of range.
   const std::int64_t magnitude = power + static_cast<std::int64_t>(count_);
   if (magnitude > kFarBeyond) return std::numeric_limits<double>::infinity();
   if (magnitude < -kFarBeyond) return 0;
 
-  // Digits and an exponent, without a decimal mark: no locale reads that otherwise.
-  std::array<char, kCapacity + 1 + kExponentRoom> text;
-  std::memcpy(text.data(), digits_.data(), count_);
-  char* end = text.data() + count_;
-  std::int64_t exponent = power;
-  if (hasRemainder_) {  // one more digit stands for all that was dropped
-    *end++ = '1';
-    --exponent;
-  }
-  std::snprintf(end, kExponentRoom, "e%lld", static_cast<long long>(exponent));
-  return std::strtod(text.data(), nullptr);
+  const std::string_view kept(digits_.data(), count_);
+  if (!hasRemainder_) return NearestDouble(kept, static_cast<std::int32_t>(power));
+  // One more digit stands for all that was dropped.
+  return NearestDouble(std::string(kept) + '1', static_cast<std::int32_t>(power - 1));
 }
 
 Significant ToSignificant(double value) {

@@ -5,8 +5,22 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <string_view>
 
 namespace gabarito {
+
+// The decimal digits of a whole number.
+class WholeDigits {
+ public:
+  explicit WholeDigits(std::uint64_t number);
+  std::u16string_view Text() const { return {units_.data() + first_, kMost - first_}; }
+
+ private:
+  static constexpr std::size_t kMost = 20;
+
+  std::array<char16_t, kMost> units_;
+  std::size_t first_ = kMost;
+};
 
 // Gathers the digits of a number of any length in constant memory and gives the nearest double.
 class DecimalReader {

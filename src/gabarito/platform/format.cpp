@@ -1,7 +1,5 @@
 #include "gabarito/platform/format.h"
 
-#include <array>
-#include <charconv>
 #include <cstddef>
 #include <cstdint>
 
@@ -14,14 +12,15 @@ namespace {
 
 // A whole number: a sign and its decimal digits, `zeros` more of which follow as zeros.
 struct Whole {
-  std::array<char16_t, 20> digits;
-  std::size_t count = 0;
+  WholeDigits digits;
   std::size_t zeros = 0;
   bool negative = false;
 
-  std::size_t Size() const { return count + zeros; }
-  char16_t Digit(std::size_t index) const { return index < count ? digits[index] : u'0'; }
-  bool IsZero() const { return count == 1 && digits[0] == u'0'; }
+  std::size_t Size() const { return digits.Text().size() + zeros; }
+  char16_t Digit(std::size_t index) const {
+    return index < digits.Text().size() ? digits.Text()[index] : u'0';
+  }
+  bool IsZero() const { return digits.Text() == u"0"; }
 };
 
 // Half away from zero, judged on the 15 digits: 2.5 gives 3 and -2.5 gives -3.
@@ -37,12 +36,7 @@ std::uint64_t WithoutFraction(const Significant& number) {
 Whole Rounded(double value) {
   const Significant number = ToSignificant(value);
   const std::uint64_t coefficient = WithoutFraction(number);
-  std::array<char, 20> buffer;
-  const auto* const end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), coefficient).ptr;
-  Whole whole;
-  for (const char* at = buffer.data(); at != end; ++at) {
-    whole.digits[whole.count++] = static_cast<char16_t>(*at);
-  }
+  Whole whole{.digits = WholeDigits(coefficient)};
   whole.zeros = number.exponent > 0 ? static_cast<std::size_t>(number.exponent) : 0;
   // -0.4 gives "00", not "-00".
   whole.negative = number.negative && coefficient != 0;

@@ -23,6 +23,7 @@ class PulaErros {
   template <class Step>
   bool operator()(Step&& step) {
 #ifdef __OPTIMIZE_SIZE__
+    // One place that tells what was caught, instead of one a step: a third of a module built for size.
     try {
       std::forward<Step>(step)();
       return true;
@@ -59,7 +60,7 @@ class PulaErros {
     }
   }
 #ifdef __OPTIMIZE_SIZE__
-  [[gnu::noinline]] void Note() noexcept {
+  [[gnu::noinline]] void Note() {
     Caught([] { throw; });
   }
 #endif

@@ -22,7 +22,7 @@ class Answer {
   void Clear() { words_.clear(); }
   void Number(std::int32_t number) { words_.push_back(number); }
   // A length in twips, to the nearest whole one: finer than any screen shows.
-  void Length(float twips) { Number(static_cast<std::int32_t>(std::lround(twips))); }
+  void Length(float twips) { Number(static_cast<std::int32_t>(std::nearbyint(twips))); }
   void Text(std::u16string_view text) {
     Number(static_cast<std::int32_t>(text.size()));
     const std::size_t at = words_.size();

@@ -3,7 +3,6 @@
 #define GABARITO_PLATFORM_PULA_ERROS_H
 
 #include <cstdint>
-#include <type_traits>
 #include <utility>
 
 #include "gabarito/platform/erro.h"

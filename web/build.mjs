@@ -24,12 +24,13 @@ const styles = {
 
 // Names of our own long enough to weigh, which neither the browser nor a page's author uses.
 const inside = ['applyFocus', 'beforeInput', 'clearRefusal', 'committed', 'composing', 'composingInput',
-  'compositionEnd', 'cutOrCopy', 'droppedDown', 'elementAt', 'erasing', 'firstInput', 'focusChild', 'focusEntry',
-  'focusField', 'focusedPlace', 'handOverStale', 'hasEntryFocused', 'hasMunicipios', 'hearer', 'isForAll', 'judged',
-  'knownText', 'makeEntry', 'makeList', 'makePlain', 'makeRow', 'makeTemplate', 'nameAll', 'noteStale', 'pasteKey',
-  'rewrites', 'rowHeight', 'showAgain', 'showEntry', 'showLabel', 'showList', 'showMunicipios', 'staleViews',
-  'startSoon', 'tableAddress', 'tabsRound', 'takeComposed', 'takeStale', 'textOf', 'valueBefore', 'verdict',
-  'writtenAtOnce'];
+  'compositionEnd', 'cutOrCopy', 'droppedDown', 'elementAt', 'erasing', 'fetchMunicipios', 'firstInput', 'focusChild',
+  'focusEntry', 'focusField', 'focusedPlace', 'handOverStale', 'hasEntryFocused', 'hasMunicipios', 'hearer',
+  'isForAll', 'judged', 'knownText', 'listCount', 'listIsOpen', 'makeEntry', 'makeList', 'makePlain', 'makeRow',
+  'makeTemplate', 'maskValue', 'nameAll', 'nameEntries', 'nameSoon', 'noteStale', 'pasteKey', 'retype', 'rewrites',
+  'rowHeight', 'showAgain', 'showEntry', 'showLabel', 'showList', 'showMunicipios', 'shownValue', 'staleViews',
+  'startSoon', 'submitNow', 'tableAddress', 'tabsRound', 'takeComposed', 'takeStale', 'textOf', 'toolTip', 'unnamed',
+  'valueBefore', 'verdict', 'wantMunicipios', 'writeTyped', 'writtenAtOnce'];
 const mangleProps = new RegExp(`^(${inside.join('|')})$`);
 
 const common = { bundle: true, format: 'esm', target: 'es2022', minify: !process.env.PLAIN, sourcemap: true, outdir: dist, logLevel: 'warning' };

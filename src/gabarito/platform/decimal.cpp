@@ -28,7 +28,7 @@ std::uint32_t TakeDigit(Wide& number) {
   const auto low = static_cast<std::uint64_t>(number);
   const std::uint64_t middle = high % 10 << 32 | low >> 32;
   const std::uint64_t last = middle % 10 << 32 | (low & 0xFFFFFFFF);
-  number = Wide{high / 10} << 64 | (middle / 10 << 32) + last / 10;
+  number = Wide{high / 10} << 64 | ((middle / 10 << 32) + last / 10);
   return static_cast<std::uint32_t>(last % 10);
 }
 

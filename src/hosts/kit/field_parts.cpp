@@ -5,7 +5,7 @@
 namespace gabarito::kit {
 namespace {
 
-constexpr const ChildDesign& Design(std::string_view name) {
+consteval const ChildDesign& Design(std::string_view name) {
   for (const ChildDesign& design : kChildren) {
     if (design.name == name) return design;
   }

@@ -38,9 +38,8 @@ Significant Shortest(double magnitude) {
   while (digits < kSafeDigits) {
     const Significant number = Rounded(magnitude, digits);
     DecimalReader reader;
-    for (const char16_t digit : WholeDigits(number.coefficient).Text()) {
-      reader.AddInteger(digit - std::uint32_t{u'0'});
-    }
+    const WholeDigits written(number.coefficient);
+    for (const char16_t digit : written.Text()) reader.AddInteger(digit - std::uint32_t{u'0'});
     if (reader.Value(number.exponent) == magnitude) break;
     ++digits;
   }

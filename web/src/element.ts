@@ -30,6 +30,21 @@ const idle = (work: () => void) => (globalThis.requestIdleCallback ?? setTimeout
 
 /**
  * @tag gabarito-field
+ * @attr {string} name - As on an input: what the value is called in the form.
+ * @attr {boolean} disabled - As on an input.
+ * @attr {boolean} autofocus - As on an input.
+ * @attr {string} autocomplete - As on an input; without it each kind says what it is.
+ * @attr {"modal"} messages - Messages in the browser's own boxes instead of under the field.
+ * @attr {boolean} block - As wide as what the element stands in.
+ * @cssprop --gabarito-accent - Colour of focus, selection and chosen entry.
+ * @cssprop --gabarito-surface - Colour of the ground.
+ * @cssprop --gabarito-ink - Colour of the text.
+ * @cssprop --gabarito-quiet - Colour of separators and notes.
+ * @cssprop --gabarito-line - Colour of the border.
+ * @cssprop --gabarito-danger - Colour of refusals.
+ * @cssprop --gabarito-radius - Radius of the corners.
+ * @cssprop --gabarito-tint - Strength of the pastel.
+ * @cssprop --gabarito-mask-font - Font of the author's own pattern.
  * @event gabarito-refused - The field has something to say; cancelable. The detail is a Refusal.
  * @csspart frame - What looks like the entry.
  * @csspart box - Each entry of the field.

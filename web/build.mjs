@@ -23,14 +23,15 @@ const styles = {
 };
 
 // Names of our own long enough to weigh, which neither the browser nor a page's author uses.
-const inside = ['applyFocus', 'beforeInput', 'clearRefusal', 'committed', 'composing', 'composingInput',
-  'compositionEnd', 'cutOrCopy', 'droppedDown', 'elementAt', 'erasing', 'fetchMunicipios', 'firstInput', 'focusChild',
-  'focusEntry', 'focusField', 'focusedPlace', 'handOverStale', 'hasEntryFocused', 'hasMunicipios', 'hearer',
-  'isForAll', 'judged', 'knownText', 'listCount', 'listIsOpen', 'makeEntry', 'makeList', 'makePlain', 'makeRow',
-  'makeTemplate', 'maskValue', 'nameAll', 'nameEntries', 'nameSoon', 'noteStale', 'pasteKey', 'retype', 'rewrites',
-  'rowHeight', 'showAgain', 'showEntry', 'showLabel', 'showList', 'showMunicipios', 'shownValue', 'staleViews',
-  'startSoon', 'submitNow', 'tableAddress', 'tabsRound', 'takeComposed', 'takeStale', 'textOf', 'toolTip', 'unnamed',
-  'valueBefore', 'verdict', 'wantMunicipios', 'writeTyped', 'writtenAtOnce'];
+const inside = ['applyAnswer', 'applyFocus', 'beforeInput', 'beforeSubmit', 'boxed', 'clearRefusal', 'committed',
+  'composing', 'composingInput', 'compositionEnd', 'cutOrCopy', 'deaf', 'droppedDown', 'elementAt', 'erasing',
+  'fetchMunicipios', 'firstInput', 'focusChild', 'focusedPlace', 'focusEntry', 'focusField', 'handOverStale',
+  'hasEntryFocused', 'hasMunicipios', 'hearer', 'isForAll', 'joined', 'judged', 'knownText', 'listCount',
+  'listIsOpen', 'makeEntry', 'makeList', 'makePlain', 'makeRow', 'makeTemplate', 'maskValue', 'nameAll',
+  'nameEntries', 'nameSoon', 'noteStale', 'offline', 'pasteKey', 'prepare', 'refusals', 'retype', 'rewrites',
+  'rowHeight', 'showAgain', 'showEntry', 'showLabel', 'showList', 'showMunicipios', 'shownMask', 'shownValue',
+  'staleViews', 'startSoon', 'submitNow', 'tableAddress', 'tabsRound', 'takeComposed', 'takeStale', 'tellChange',
+  'textOf', 'toolTip', 'unnamed', 'valueBefore', 'verdict', 'wantMunicipios', 'watched', 'writeTyped', 'writtenAtOnce'];
 const mangleProps = new RegExp(`^(${inside.join('|')})$`);
 
 const common = { bundle: true, format: 'esm', target: 'es2022', minify: !process.env.PLAIN, sourcemap: true, outdir: dist, logLevel: 'warning' };

@@ -84,7 +84,7 @@ export class GabaritoField extends FieldValue implements Owner {
     super();
     this.internals.role = 'group';
     this.root = this.attachShadow({ mode: 'open', delegatesFocus: true });
-    this.messages = new Messages(this, this.root);
+    this.messages = new Messages(this, this.root, () => this.view?.page.boxed());
     this.frame = this.ownerDocument.createElement('div');
     this.frame.className = 'frame';
     this.frame.setAttribute('part', 'frame');

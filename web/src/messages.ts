@@ -22,6 +22,7 @@ export class Messages {
   constructor(
     private readonly field: HTMLElement,
     private readonly root: ShadowRoot,
+    private readonly boxed: () => void,
   ) {}
 
   // The place under the field. Assistive technology listens to it only when it was there before its text.
@@ -55,9 +56,14 @@ export class Messages {
     }
     if (!shown) return detail.answer;
     const view = this.field.ownerDocument.defaultView;
-    if (asks) return view?.confirm(text) ? yes : no;
-    if (this.field.getAttribute('messages') === 'modal') view?.alert(text);
-    else this.tell(text, true);
-    return ok;
+    let answer = ok;
+    if (asks) answer = view?.confirm(text) ? yes : no;
+    else if (this.field.getAttribute('messages') === 'modal') view?.alert(text);
+    else {
+      this.tell(text, true);
+      return ok;
+    }
+    this.boxed();
+    return answer;
   }
 }

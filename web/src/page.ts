@@ -39,6 +39,7 @@ export class Page implements Calls {
   private answer: Answer | undefined; // not applied yet
   private depth = 0; // of calls inside calls: the browser's focus is set when the outermost is over
   private focused = 0; // the field with the logical focus
+  private deaf = false; // to what the browser tells of the focus
   private last = 0;
   private municipios: Promise<boolean> | undefined;
   hasMunicipios = false;
@@ -170,10 +171,20 @@ export class Page implements Calls {
     return 0;
   }
 
+  // A box of the browser's has gone. Firefox gives the focus back to what had it before, whatever the field has made of
+  // the message.
+  boxed(): void {
+    this.deaf = true;
+    setTimeout(() => {
+      this.deaf = false;
+      this.send(0, Event.sync);
+    });
+  }
+
   private focusIn(event: FocusEvent): void {
     const path = event.composedPath();
     // Inside a field: that field tells it.
-    if (path.some((step) => this.hosts.has(step))) return;
+    if (this.deaf || path.some((step) => this.hosts.has(step))) return;
     this.leave(path[0] ?? event.target);
   }
 

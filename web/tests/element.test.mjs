@@ -282,6 +282,18 @@ for (const name of browsers) {
       await page.tells(() => [f.nome.value, f.nome.checkValidity()], ['+++', true]);
     });
 
+    scene('in a box of the browser a refusal is said once, and the focus stays',
+      `${field('cpf', 'gbCPF', 'messages="modal" autofocus')}<input id="last">`, async (page) => {
+      const said = [];
+      page.on('dialog', (box) => (said.push(box.message()), box.accept()));
+      await page.tells(() => f.active('cpf'), 0);
+      await page.write('123');
+      await page.press('Tab');
+      await settle(page);
+      assert.deepEqual(said, ['O CPF informado é inválido.']);
+      await page.tells(() => [f.active('cpf'), ...f.texts('cpf')], [0, '123']);
+    });
+
     scene('what the page writes when it hears of an edit stays', cpf, async (page) => {
       await page.evaluate(() => {
         f.cpf.focus();

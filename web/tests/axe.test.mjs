@@ -20,8 +20,16 @@ describe('accessibility', () => {
     server.close();
   });
 
-  async function playground({ width = 1280, features = [] } = {}) {
+  // A file that is `late` never comes, one that is `lost` cannot be had.
+  async function playground({ width = 1280, features = [], late, lost } = {}) {
     const page = await browser.newPage();
+    if (late ?? lost) {
+      await page.setRequestInterception(true);
+      page.on('request', (request) => {
+        if (!request.url().endsWith(late ?? lost)) request.continue();
+        else if (lost) request.abort();
+      });
+    }
     await page.setViewport({ width, height: 900 });
     await page.emulateMediaFeatures(features);
     await page.goto(`${server.address}playground/`);
@@ -29,7 +37,12 @@ describe('accessibility', () => {
       const root = (id) => document.getElementById(id).shadowRoot;
       globalThis.boxes = (id) => [...root(id).querySelectorAll('.box:not([hidden])')];
     });
-    await page.waitForFunction(() => document.querySelector('#municipio').comboListCount === 5652);
+    if (late ?? lost) {
+      await page.waitForFunction(() => boxes('municipio').length + boxes('cpf').length >= 2 &&
+        document.querySelector('#municipio').shadowRoot.querySelector('.message')?.textContent);
+    } else {
+      await page.waitForFunction(() => document.querySelector('#municipio').comboListCount === 5652);
+    }
     return page;
   }
 
@@ -82,6 +95,9 @@ describe('accessibility', () => {
       const open = await page.evaluate(() => boxes('municipio')[0].getAttribute('aria-expanded'));
       assert.equal(open, 'true');
     }],
+    ['while the municipalities are on their way', { late: 'municipios.txt' }, async () => {}],
+    ['without the municipalities', { lost: 'municipios.txt' }, async () => {}],
+    ['without the module', { lost: 'gabarito.wasm' }, async () => {}],
     ['disabled', {}, (page) => page.click('#desligado')],
     ['read only', {}, (page) => page.click('#leitura')],
     ['with every property turned', {}, async (page) => {

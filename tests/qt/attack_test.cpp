@@ -28,10 +28,10 @@ class AttackOn : public OnWindow {
   void Renew() {
     elsewhere.reset();
     window = std::make_unique<QWidget>();
-    auto* const layout = new QVBoxLayout(window.get());
-    layout->addWidget(before = new QLineEdit);
-    layout->addWidget(field = new GabaritoField);
-    layout->addWidget(after = new QLineEdit);
+    before = new QLineEdit;
+    field = new GabaritoField;
+    after = new QLineEdit;
+    Furnish();
     field->setMessageHandler([](const GabaritoField::Message&) { return false; });
   }
   void LeaveWithABadCpf() {

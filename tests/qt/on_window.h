@@ -19,10 +19,7 @@ namespace gabarito::qt {
 class OnWindow : public testing::Test {
  public:
   OnWindow() {
-    auto* const layout = new QVBoxLayout(window.get());
-    layout->addWidget(before);
-    layout->addWidget(field);
-    layout->addWidget(after);
+    Furnish();
     QObject::connect(
         field, &GabaritoField::refused, field,
         [this](const QString& title, const QString& text) { refusals.append(title + ": " + text); });
@@ -30,6 +27,13 @@ class OnWindow : public testing::Test {
       shown.append(message.text);
       return false;
     });
+  }
+
+  void Furnish() {
+    auto* const layout = new QVBoxLayout(window.get());
+    layout->addWidget(before);
+    layout->addWidget(field);
+    layout->addWidget(after);
   }
 
   void Show(GabaritoField::Mask mask) {

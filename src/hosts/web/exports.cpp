@@ -166,7 +166,7 @@ void Run(Bridge& bridge, std::int32_t number, Event event, const Arguments& with
     return TheBridge().page->Run();
   }
   if (event == Event::kMunicipios) {
-    if (!OwnMunicipios(with.data)) throw Erro(kInvalidProcedureCall);
+    if (!OwnMunicipios(with.data)) Fail(kInvalidProcedureCall);
     return;
   }
   WebField* const field = PlaceOf(number).get();
